@@ -1,0 +1,46 @@
+# Compiler settings shared by every target, and the two kinds of target the tree is made of.
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/lib)
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
+
+find_program(ZAF_CCACHE ccache)
+if(ZAF_CCACHE)
+  set(CMAKE_CXX_COMPILER_LAUNCHER ${ZAF_CCACHE})
+endif()
+
+add_library(zaf_settings INTERFACE)
+target_compile_options(zaf_settings INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Wshadow)
+if(ZAF_DEVELOPER)
+  target_compile_options(zaf_settings INTERFACE -Werror)
+endif()
+if(ZAF_SANITIZE)
+  add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
+  add_link_options(-fsanitize=address,undefined)
+endif()
+
+# zaf_room(<name>): one folder below src/ as an object library; the one library is made of them all.
+function(zaf_room name)
+  file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/${name}/*.cpp)
+  if(sources)
+    add_library(zaf_room_${name} OBJECT ${sources})
+    target_include_directories(zaf_room_${name} PUBLIC ${CMAKE_SOURCE_DIR}/src)
+    target_link_libraries(zaf_room_${name} PRIVATE zaf_settings)
+  endif()
+endfunction()
+
+# zaf_test(<room>): the test program of one room, made of tests/<room>_*test.cpp.
+function(zaf_test room)
+  file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/${room}_*test.cpp
+       ${CMAKE_SOURCE_DIR}/tests/${room}_test.cpp)
+  if(sources)
+    list(REMOVE_DUPLICATES sources)
+    add_executable(${room}_test ${sources})
+    target_link_libraries(${room}_test PRIVATE zaf_test_support GTest::gtest_main)
+    gtest_discover_tests(${room}_test DISCOVERY_TIMEOUT 60)
+  endif()
+endfunction()

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <chrono>
+#include <cstdint>
+#include <memory>
+
+namespace platform {
+
+using Milliseconds = std::chrono::milliseconds;
+
+// Millisecond tick count of the system; wraps around after 49.7 days.
+using TickCount = std::uint32_t;
+
+class Clock {
+ public:
+  virtual ~Clock();
+  // Time since some fixed moment; never goes back.
+  virtual Milliseconds Now() = 0;
+  // Blocks the thread; a manual clock moves on instead.
+  virtual void Sleep(Milliseconds duration) = 0;
+  // Date and time of day, UTC.
+  virtual std::chrono::system_clock::time_point WallTime() = 0;
+
+  TickCount Ticks() { return static_cast<TickCount>(Now().count()); }
+};
+
+std::unique_ptr<Clock> MakeSystemClock();
+
+// A clock for tests: stands still until it is advanced or slept on.
+class ManualClock : public Clock {
+ public:
+  explicit ManualClock(Milliseconds start = Milliseconds{1'000'000});
+  Milliseconds Now() override { return now_; }
+  void Sleep(Milliseconds duration) override { now_ += duration; }
+  std::chrono::system_clock::time_point WallTime() override;
+  void Advance(Milliseconds duration) { now_ += duration; }
+
+ private:
+  Milliseconds now_;
+};
+
+}  // namespace platform

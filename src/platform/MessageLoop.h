@@ -1,0 +1,82 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <optional>
+
+#include "platform/Clock.h"
+#include "platform/Failure.h"
+
+namespace platform {
+
+// Handle of a timer or of a posted event. Destroying or cancelling it takes the handler back; a
+// handler may cancel itself while it runs. Outliving the loop is harmless.
+class Subscription {
+ public:
+  class State;
+  Subscription() = default;
+  explicit Subscription(std::shared_ptr<State> state);
+  Subscription(Subscription&&) noexcept = default;
+  Subscription& operator=(Subscription&& other) noexcept;
+  ~Subscription();
+  void Cancel();
+  bool IsActive() const;
+
+ private:
+  std::shared_ptr<State> state_;
+};
+
+// What a host with a loop of its own (Qt, GLib, libuv) supplies. Both calls come on the loop's
+// thread.
+class HostLoop {
+ public:
+  virtual ~HostLoop();
+  // NextDue() has changed: re-arm the host's timer, then call RunDue() when it fires.
+  virtual void OnNextDueChanged() = 0;
+  // Runs the host's events until `until` (Clock::Now() time) at the latest; may return earlier.
+  virtual void RunHostEvents(Milliseconds until) = 0;
+};
+
+// Posted events and timers of one thread. Everything the library does in the background runs from
+// here. A handler that is on the stack is not entered again: its ticks coalesce into one. A Failure
+// that leaves a handler goes to the failure sink, never into the operation that waits.
+class MessageLoop {
+ public:
+  using Handler = std::function<void()>;
+  using FailureSink = std::function<void(const Failure&)>;
+
+  explicit MessageLoop(Clock& clock);
+  ~MessageLoop();
+  MessageLoop(const MessageLoop&) = delete;
+  MessageLoop& operator=(const MessageLoop&) = delete;
+
+  // Runs `handler` once at the next pump, in the order of posting.
+  [[nodiscard]] Subscription Post(Handler handler);
+  // Runs `handler` every `interval` (at least 1 ms), first after one interval.
+  [[nodiscard]] Subscription StartTimer(Milliseconds interval, Handler handler);
+  // Runs `handler` once, after `delay`.
+  [[nodiscard]] Subscription StartOnce(Milliseconds delay, Handler handler);
+
+  // Runs what was due when it was called (not what the handlers add). With a host loop, lets the
+  // host run its pending events as well. True when a handler ran.
+  bool Pump();
+  // A step of a nested wait: sleeps until something is due or a host event ends the sleep, at most
+  // `atMost`, then pumps.
+  void WaitStep(Milliseconds atMost);
+
+  // For a host with its own loop: when the next handler is due (Clock::Now() time; a moment in the
+  // past when one is waiting), nothing when there is none.
+  std::optional<Milliseconds> NextDue() const;
+  // Runs what is due now, without the host's events.
+  bool RunDue();
+  void SetHostLoop(HostLoop* host);
+
+  // Where a Failure that leaves a handler goes; by default it is dropped.
+  void SetFailureSink(FailureSink sink);
+
+ private:
+  class Queue;
+  std::shared_ptr<Queue> queue_;
+};
+
+}  // namespace platform

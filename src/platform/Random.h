@@ -1,0 +1,22 @@
+#pragma once
+
+#include <cstdint>
+#include <random>
+
+namespace platform {
+
+// Seedable source of random numbers; seeded from the system unless a seed is given.
+class RandomSource {
+ public:
+  RandomSource();
+  explicit RandomSource(std::uint64_t seed);
+  void Seed(std::uint64_t seed) { engine_.seed(seed); }
+  // Uniform in [0, 1).
+  double Uniform();
+  std::uint64_t Bits() { return engine_(); }
+
+ private:
+  std::mt19937_64 engine_;
+};
+
+}  // namespace platform

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <filesystem>
+#include <fstream>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace platform {
+
+// Paths from INI and optimisation data separate folders by "\"; the system's way instead.
+std::filesystem::path SystemPath(std::string_view path);
+
+// Reads a text file line by line (CR LF or LF; a byte order mark at the start is skipped).
+class TextReader {
+ public:
+  // Raises FileNotFound or PathFileAccess; the description names the file.
+  explicit TextReader(const std::filesystem::path& file);
+  // The next line without its end; nothing at the end of the file. Raises PathFileAccess when the
+  // file cannot be read on.
+  std::optional<std::string> ReadLine();
+
+ private:
+  std::filesystem::path file_;
+  std::ifstream stream_;
+  bool first_ = true;
+};
+
+// Writes a new file beside the old one and renames it over it, so that the old one stays whole when
+// anything fails. Raises PathFileAccess naming the file and the reason.
+void WriteFileAtomically(const std::filesystem::path& file, std::string_view content);
+
+}  // namespace platform
