@@ -1,0 +1,88 @@
+#pragma once
+
+#include <cstdint>
+
+// The numeric codes of DD objects.
+namespace ZAFHartTypes {
+
+// Item-type numbers of the HART DD binary format minus one.
+enum class ObjectKind : std::int32_t {
+  Undefined = -1,
+  Variable = 0,
+  Command = 1,
+  Menu = 2,
+  EditDisplay = 3,
+  Method = 4,
+  RefreshRelation = 5,
+  UnitRelation = 6,
+  WriteAsOne = 7,
+  ItemArray = 8,
+  Collection = 9,
+};
+
+// Type of a variable's value.
+enum class TypeCode : std::int32_t {
+  NotComputed = -1,
+  Float = 0,
+  Double = 1,
+  Integer = 2,
+  Unsigned = 3,
+  Enumerated = 4,
+  BitEnumerated = 5,
+  Index = 6,  // into an item array
+  Ascii = 7,  // Latin-1 on the wire
+  PackedAscii = 8,
+  Password = 9,
+  BitString = 10,
+  Date = 11,  // three bytes: day, month, year - 1900
+  Time = 12,
+  DateAndTime = 13,
+  Duration = 14,
+};
+
+constexpr bool IsNumeric(TypeCode code) {
+  return code >= TypeCode::Float && code <= TypeCode::Unsigned;
+}
+constexpr bool IsIntegral(TypeCode code) {
+  return code >= TypeCode::Integer && code <= TypeCode::Index;
+}
+constexpr bool IsText(TypeCode code) {
+  return code >= TypeCode::Ascii && code <= TypeCode::BitString;
+}
+constexpr bool IsDate(TypeCode code) {
+  return code >= TypeCode::Date && code <= TypeCode::Duration;
+}
+
+// Flags of VariableAttributes.
+enum class VariableFlag : std::uint8_t {
+  Dynamic = 9,       // a live value: left out of uploads and of reads of whole lists
+  LibraryHeld = 12,  // no device command reads or writes it; never to be written
+};
+
+// Argument of Variable::CheckHandling.
+enum class AccessMode : std::int32_t { Write = 0, Read = 1 };
+
+// Value of Command::Operation; other values are possible and mean neither.
+enum class Operation : std::int32_t { Read = 0, Write = 1, Command = 2 };
+
+enum class DataItemType : std::int32_t { Constant = 0, Variable = 1 };
+
+// Type of a DD response code. Values above DataEntryWarning are errors.
+enum class ResponseCodeType : std::int32_t {
+  Success = 0,
+  MiscWarning = 1,
+  DataEntryWarning = 2,
+  DataEntryError = 3,
+  ModeError = 4,
+  ProcessError = 5,
+  MiscError = 6,
+};
+constexpr bool IsError(ResponseCodeType type) {
+  return type > ResponseCodeType::DataEntryWarning;
+}
+
+// Qualifiers of a menu item. Index 0 marks an item for display: the frame shows its value beside
+// its label. Index 1 is read-only.
+enum class MenuQualifier : std::uint8_t { DisplayValue = 0, ReadOnly = 1 };
+
+}  // namespace ZAFHartTypes

@@ -1,0 +1,120 @@
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "ddobjects/Command.h"
+#include "ddobjects/DefinitionList.h"
+#include "ddobjects/EditDisplay.h"
+#include "ddobjects/ItemArray.h"
+#include "ddobjects/Menu.h"
+#include "ddobjects/Method.h"
+#include "ddobjects/Relations.h"
+#include "ddobjects/Variable.h"
+#include "platform/Object.h"
+
+namespace ZAFHartTypes {
+
+class IDDComponents;
+class IDDKernel;
+
+// What every data model fulfils: a generated one for the items of a device's DD, the library's own
+// for the internal items.
+//
+// Init…: run once each, in the order variables, commands, menus, edit displays, methods, relations,
+// arrays, collections. Each makes one object per DD item and adds it to the worker database
+// (IDDWorkerDB::AddObject); InitCommands appends each definition to `commands`, InitRelations to
+// `relations`. Static attributes are set here and stay what every later computation starts from.
+//
+// Compute…: run by the kernel's typed getters whenever an object's attributes are needed and not
+// current. `name` is the item's name, `object` the object to compute. A data model evaluates the
+// conditional parts of the DD on it and returns it; one that does not own the item, or has nothing
+// to evaluate, returns it unchanged. It may call back into the kernel. Failures reach the caller of
+// the getter.
+class IDDDataModel {
+ public:
+  virtual ~IDDDataModel() = default;
+
+  // Attributes of the DD compilation; may be nothing.
+  virtual std::shared_ptr<platform::Object> GetCompilerAttrs() = 0;
+  virtual void InitVariables(IDDComponents& components, DefinitionList& commands,
+                             DefinitionList& relations) = 0;
+  virtual void InitCommands(IDDComponents& components, DefinitionList& commands,
+                            DefinitionList& relations) = 0;
+  virtual void InitCollections(IDDComponents& components, DefinitionList& commands,
+                               DefinitionList& relations) = 0;
+  virtual void InitMenus(IDDComponents& components, DefinitionList& commands,
+                         DefinitionList& relations) = 0;
+  virtual void InitEditDisplays(IDDComponents& components, DefinitionList& commands,
+                                DefinitionList& relations) = 0;
+  virtual void InitMethods(IDDComponents& components, DefinitionList& commands,
+                           DefinitionList& relations) = 0;
+  virtual void InitRelations(IDDComponents& components, DefinitionList& commands,
+                             DefinitionList& relations) = 0;
+  virtual void InitArrays(IDDComponents& components, DefinitionList& commands,
+                          DefinitionList& relations) = 0;
+
+  virtual std::shared_ptr<ItemArray> ComputeArrayAttrs(IDDKernel& kernel, IDDComponents& components,
+                                                       const std::string& name,
+                                                       std::shared_ptr<ItemArray> object) = 0;
+  virtual std::shared_ptr<Command> ComputeCmdAttrs(IDDKernel& kernel, IDDComponents& components,
+                                                   const std::string& name,
+                                                   std::shared_ptr<Command> object) = 0;
+  virtual std::shared_ptr<ItemCollection> ComputeCollectionAttrs(
+      IDDKernel& kernel, IDDComponents& components, const std::string& name,
+      std::shared_ptr<ItemCollection> object) = 0;
+  virtual std::shared_ptr<EditDisplay> ComputeEditDisplayAttrs(
+      IDDKernel& kernel, IDDComponents& components, const std::string& name,
+      std::shared_ptr<EditDisplay> object) = 0;
+  virtual std::shared_ptr<Menu> ComputeMenuAttrs(IDDKernel& kernel, IDDComponents& components,
+                                                 const std::string& name,
+                                                 std::shared_ptr<Menu> object) = 0;
+  virtual std::shared_ptr<Method> ComputeMethodAttrs(IDDKernel& kernel, IDDComponents& components,
+                                                     const std::string& name,
+                                                     std::shared_ptr<Method> object) = 0;
+  virtual std::shared_ptr<RefreshRelation> ComputeRefreshSpecifier(
+      IDDKernel& kernel, IDDComponents& components, const std::string& name,
+      std::shared_ptr<RefreshRelation> object) = 0;
+  virtual std::shared_ptr<UnitRelation> ComputeUnitSpecifier(
+      IDDKernel& kernel, IDDComponents& components, const std::string& name,
+      std::shared_ptr<UnitRelation> object) = 0;
+  virtual std::shared_ptr<Variable> ComputeVarAttrs(IDDKernel& kernel, IDDComponents& components,
+                                                    const std::string& name,
+                                                    std::shared_ptr<Variable> object) = 0;
+  virtual std::shared_ptr<WriteAsOne> ComputeWriteAsOneSpecifier(
+      IDDKernel& kernel, IDDComponents& components, const std::string& name,
+      std::shared_ptr<WriteAsOne> object) = 0;
+  // Runs the body of method `name`; `context` is the object it was started from, `inAbort` tells
+  // that it runs as an abort method.
+  virtual void ExecuteMethodBody(IDDKernel& kernel, IDDComponents& components,
+                                 const std::string& name, std::shared_ptr<DDObject> context,
+                                 bool inAbort) = 0;
+  virtual bool ComputeMethodValidity(IDDKernel& kernel, IDDComponents& components,
+                                     const std::string& name, std::shared_ptr<Method> object) = 0;
+  virtual std::shared_ptr<Variable> ComputeVarType(IDDKernel& kernel, IDDComponents& components,
+                                                   const std::string& name,
+                                                   std::shared_ptr<Variable> object) = 0;
+  virtual bool ComputeVarValidity(IDDKernel& kernel, IDDComponents& components,
+                                  const std::string& name, std::shared_ptr<Variable> object) = 0;
+};
+
+// Standard names that a DTM's kernel information answers.
+enum class StandardName : std::int32_t {
+  UploadVariables = 1,   // menu of the upload and download variables
+  OnlineParameters = 3,  // menu
+  ProcessVariables = 4,  // menu
+  StatusDisplay = 6,     // menu
+};
+
+// Object that each DTM provides beside its data model, created as "<project>.KernelInformation".
+class IKernelInformation {
+ public:
+  virtual ~IKernelInformation() = default;
+  // Name of one of the DTM's standard DD objects; "" when it has none.
+  virtual std::string StandardName(ZAFHartTypes::StandardName index) = 0;
+  // Folder and file name of the DTM's component file; name the INI file and the DTM's settings.
+  virtual std::string ComponentFolder() = 0;
+  virtual std::string ComponentFileName() = 0;
+};
+
+}  // namespace ZAFHartTypes

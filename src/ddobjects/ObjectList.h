@@ -1,0 +1,28 @@
+#pragma once
+
+#include "ddobjects/DDObject.h"
+#include "ddobjects/KeyedList.h"
+
+namespace ZAFHartTypes {
+
+// Keyed list of objects, by the names of their definitions.
+class ObjectList {
+ public:
+  // False, and no change, when an object of that name is listed already.
+  bool Add(std::shared_ptr<DDObject> object);
+  bool Contains(const Definition& definition) const { return list_.Contains(definition.Key()); }
+  // Nothing when absent.
+  std::shared_ptr<DDObject> Find(const Definition& definition) const;
+  // By position from 1; raises SubscriptOutOfRange.
+  const std::shared_ptr<DDObject>& Item(std::size_t position) const { return list_.At(position); }
+  bool Remove(const Definition& definition) { return list_.Remove(definition.Key()); }
+  std::size_t Count() const { return list_.Count(); }
+  void Clear() { list_.Clear(); }
+  auto begin() const { return list_.begin(); }
+  auto end() const { return list_.end(); }
+
+ private:
+  KeyedList<std::shared_ptr<DDObject>> list_;
+};
+
+}  // namespace ZAFHartTypes

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <cstdint>
+
+#include "ddobjects/Codes.h"
+
+namespace ZAFHartTypes {
+
+// Flags of a variable, addressed by index 0 to 31.
+class VariableAttributes {
+ public:
+  bool Flag(VariableFlag index) const {
+    return ((bits_ >> static_cast<unsigned>(index)) & 1U) != 0;
+  }
+  void SetFlag(VariableFlag index, bool value) {
+    const std::uint32_t bit = 1U << static_cast<unsigned>(index);
+    bits_ = value ? bits_ | bit : bits_ & ~bit;
+  }
+  bool IsDynamic() const { return Flag(VariableFlag::Dynamic); }
+  bool IsLibraryHeld() const { return Flag(VariableFlag::LibraryHeld); }
+
+ private:
+  std::uint32_t bits_ = 0;
+};
+
+}  // namespace ZAFHartTypes

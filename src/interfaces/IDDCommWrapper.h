@@ -1,0 +1,59 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "ddobjects/ByteBuffer.h"
+#include "ddobjects/Command.h"
+#include "interfaces/Codes.h"
+#include "interfaces/ILink.h"
+
+namespace ZAFHartTypes {
+
+class IDDComponents;
+
+// What the kernel hands every command to.
+class IDDCommWrapper {
+ public:
+  virtual ~IDDCommWrapper() = default;
+  virtual void SetComponentModel(const std::shared_ptr<IDDComponents>& components) = 0;
+  virtual std::shared_ptr<IDDComponents> ComponentModel() const = 0;
+  // Executes a transaction of the command `number` and waits for its end; the message loop runs
+  // meanwhile. Fills the bound reply items. True when a reply came.
+  virtual bool ExecuteCommand(std::int16_t number,
+                              const std::shared_ptr<Transaction>& transaction) = 0;
+  // Starts an execution; its end reaches the kernel's AsyncExecuteCommandEnd with the same object.
+  virtual bool AsyncExecuteCommand(const std::shared_ptr<CommandRef>& reference) = 0;
+  // 0 when the last exchange had a reply, -3 when it had none; callers may set other values.
+  virtual std::int32_t LastResult() const = 0;
+  virtual void SetLastResult(std::int32_t result) = 0;
+  virtual CommandStatus LastStatus() const = 0;
+  // Data bytes of the last reply, without the two status bytes.
+  virtual std::vector<std::uint8_t> LastData() const = 0;
+  virtual void Initialize() = 0;
+  // While emulating, every command is completed locally and the DTM is offline.
+  virtual bool Emulate() const = 0;
+  virtual void SetEmulate(bool emulate) = 0;
+  virtual void GetAddressInformation(std::int32_t& pollingAddress, std::string& tagName,
+                                     std::string& longAddress) = 0;
+  virtual void SetAddressInformation(std::int32_t pollingAddress, const std::string& tagName,
+                                     const std::string& longAddress) = 0;
+};
+
+// Offered by wrappers whose exchanges go through a link that the host chooses.
+class ILinkUser {
+ public:
+  virtual ~ILinkUser() = default;
+  // Class name from which a link is created when none is given; "HartLinkSim.EchoLink" at first.
+  virtual std::string LinkClass() const = 0;
+  virtual void SetLinkClass(const std::string& className) = 0;
+  // The link for all exchanges from now on; nothing goes back to LinkClass.
+  virtual void SetLink(std::shared_ptr<ILink> link) = 0;
+  // Ends the synchronous exchange under way: it fails with ErrorNumber::Cancelled. False when none
+  // is under way.
+  virtual bool CancelExchange() = 0;
+};
+
+}  // namespace ZAFHartTypes

@@ -1,0 +1,79 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+
+#include "ddobjects/ByteBuffer.h"
+#include "ddobjects/Command.h"
+#include "ddobjects/Variable.h"
+#include "interfaces/Codes.h"
+#include "interfaces/IDDDebugTracer.h"
+#include "interfaces/IDDErrorHandler.h"
+
+namespace ZAFHartTypes {
+
+class IDDComponents;
+
+// A message to the user, or a request for his input.
+struct UserMessage {
+  std::int32_t displayId = 0;  // 0 or -1: a new display; otherwise the display to show it in
+  MessageIcon icon = MessageIcon::None;
+  std::string title;
+  std::string prompt;
+  std::string help;
+  std::int32_t delay = kWaitForUser;  // seconds, or kWaitForUser
+  std::shared_ptr<Variable> input;    // variable whose value is asked for; nothing for none
+};
+
+// The GUI manager of a DTM instance, and at the same time every control that registers with it.
+class IDDDTMGUI {
+ public:
+  virtual ~IDDDTMGUI() = default;
+
+  virtual void SetErrorHandler(std::shared_ptr<IDDErrorHandler> handler) = 0;
+  virtual std::shared_ptr<IDDErrorHandler> ErrorHandler() const = 0;
+  virtual void SetComponentModel(const std::shared_ptr<IDDComponents>& components) = 0;
+  virtual std::shared_ptr<IDDComponents> ComponentModel() const = 0;
+  // Language code of texts shown to the user: "en", "de", "fr", "it", "es", "kt".
+  virtual void SetLanguageID(const std::string& language) = 0;
+  virtual std::string LanguageID() const = 0;
+  // A new trace object; a control returns nothing.
+  virtual std::shared_ptr<IDDDebugTracer> TraceObject() = 0;
+  virtual void ShowObject(const std::shared_ptr<DDObject>& object) = 0;
+  virtual void HideObject(const std::shared_ptr<DDObject>& object) = 0;
+  virtual void ObjectError(const std::shared_ptr<DDObject>& object, ItemIndex index) = 0;
+  virtual void ResponseCodeError(const CommandStatus& status,
+                                 const std::shared_ptr<CommandRef>& command) = 0;
+  virtual void EvaluationError(const std::string& message) = 0;
+  // The edited value of a field, Null when the field holds no edit, empty when it is not asked.
+  virtual Variant GetObjectValue(const std::shared_ptr<DDObject>& object) = 0;
+  // Shows a message and waits as its delay says. The result is its display id (above 0), 0, or
+  // kMessageCancelled when the user cancelled.
+  virtual std::int32_t ShowUserMessage(const UserMessage& message) = 0;
+  virtual void HideUserMessage(std::int32_t displayId) = 0;
+  virtual void LifeSignal(LifeSignalCode code, const SignalObject& object) = 0;
+  // Ends the edit of the field that has the user's attention, as if he had left it.
+  virtual void StopCurrentEditing() = 0;
+  virtual std::int32_t SetUILock() = 0;
+  virtual bool IsUILocked() const = 0;
+  virtual void ReleaseUILock(std::int32_t lockId) = 0;
+};
+
+// Whether single objects are shown while much changes at once.
+class IDDDTMGUIUpdateControl {
+ public:
+  virtual ~IDDDTMGUIUpdateControl() = default;
+  virtual bool LockUpdate() const = 0;
+  virtual void SetLockUpdate(bool locked) = 0;
+  virtual void RefreshView() = 0;
+};
+
+class IDDPrint {
+ public:
+  virtual ~IDDPrint() = default;
+  // True when the control prints that function's document.
+  virtual bool DoPrint(std::int32_t functionId, std::int32_t printType, Variant& printResult) = 0;
+};
+
+}  // namespace ZAFHartTypes

@@ -1,0 +1,95 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "ddobjects/DDObject.h"
+#include "ddobjects/DataItem.h"
+#include "ddobjects/Variable.h"
+#include "types/Variant.h"
+
+namespace ZAFHartTypes {
+
+class IDDComponents;
+
+using ValueList = std::vector<Variant>;
+
+// The store of all DD objects and values of one DTM instance. Names are keys without regard to
+// letter case; positions count from 1 in the order the objects were added.
+//
+// In every Set… an empty definition means all objects of the kind concerned; an unknown name or an
+// object of another kind is ignored. Every Is… answers false for them.
+class IDDWorkerDB {
+ public:
+  virtual ~IDDWorkerDB() = default;
+  virtual void SetComponentModel(const std::shared_ptr<IDDComponents>& components) = 0;
+  virtual std::shared_ptr<IDDComponents> ComponentModel() const = 0;
+
+  // The object to work with (see DDObject::ComputeAttributes); nothing for an unknown name.
+  virtual std::shared_ptr<DDObject> ReadObject(const Definition& definition) = 0;
+  // Takes the object's content into the stored object of its name; ignored when there is none.
+  virtual void WriteObject(const std::shared_ptr<DDObject>& object) = 0;
+  // Stores a new object; one whose name is taken is dropped silently.
+  virtual void AddObject(const std::shared_ptr<DDObject>& object) = 0;
+  // Constants and stored values of the items, in item order.
+  virtual ValueList ReadValues(const DataItemList& items) = 0;
+  // Writes the values of the variable items; SubscriptOutOfRange when there are too few.
+  virtual void WriteValues(const DataItemList& items, const ValueList& values) = 0;
+
+  virtual std::int32_t Count() const = 0;
+  // A copy of the stored object. Raises SubscriptOutOfRange, or InvalidProcedureCall for a name.
+  virtual std::shared_ptr<DDObject> Object(std::int32_t position) const = 0;
+  virtual std::shared_ptr<DDObject> Object(const std::string& name) const = 0;
+  // First position from `start` on (0 counts as 1) that holds an object of that kind, -1 when there
+  // is none; without a kind, `start` or -1.
+  virtual std::int32_t FindNextObject(std::int32_t start,
+                                      std::optional<ObjectKind> kind = {}) const = 0;
+  // All stored objects in order, as they are now.
+  virtual std::vector<std::shared_ptr<DDObject>> NewEnum() const = 0;
+
+  virtual void SetVariableAvailable(const Definition& definition, bool available) = 0;
+  virtual void SetVariableError(const Definition& definition, std::int32_t index,
+                                const std::string& text) = 0;
+  virtual void SetCommandInRecursion(const Definition& definition, bool running) = 0;
+  virtual bool IsCommandInRecursion(const Definition& definition) const = 0;
+  virtual void SetVariableInRecursion(const Definition& definition, bool running) = 0;
+  virtual bool IsVariableInRecursion(const Definition& definition) const = 0;
+  virtual void SetVariableIsChecked(const Definition& definition, bool checked) = 0;
+  // Never true for a variable that is not writable or is library-held.
+  virtual void SetVariableToBeWritten(const Definition& definition, bool pending) = 0;
+  // Stores a new value: the variable becomes available and, when a device command can write it, to
+  // be written. An unknown name is ignored.
+  virtual void WriteValue(const Definition& definition, const Variant& value) = 0;
+  virtual void SetRefreshInRecursion(const Definition& definition, bool running) = 0;
+  virtual bool IsRefreshInRecursion(const Definition& definition) const = 0;
+  // `left` has changed and `right` is to be read again. InvalidArgument for non-variables.
+  virtual void SetRefresh(const Definition& right, const Definition& left) = 0;
+  virtual void SetUnitInRecursion(const Definition& definition, bool running) = 0;
+  virtual bool IsUnitInRecursion(const Definition& definition) const = 0;
+  // `right` gets its unit from the unit variable `left`. InvalidArgument for non-variables.
+  virtual void SetUnit(const Definition& right, const Definition& left) = 0;
+  // Clears the recursion marks of all variables and commands.
+  virtual void ResetInRecursionFlags() = 0;
+  virtual void SetVariableInReadRecursion(const Definition& definition, bool running) = 0;
+  virtual bool IsVariableInReadRecursion(const Definition& definition) const = 0;
+};
+
+// State of the data set as a whole.
+class IDataBaseExtension {
+ public:
+  virtual ~IDataBaseExtension() = default;
+  // A value changed since SetIsDirty(false); setting it to true has no effect.
+  virtual bool IsDirty() const = 0;
+  virtual void SetIsDirty(bool dirty) = 0;
+  // Device and data set agree, as far as known.
+  virtual bool IsSynchronized() const = 0;
+  virtual void SetIsSynchronized(bool synchronized) = 0;
+  // Writes go to the device at once. "__ZAF__OnlineMode" 1 or 2 follows; 0 is left alone.
+  virtual bool SynchronousMode() const = 0;
+  virtual void SetSynchronousMode(bool synchronous) = 0;
+};
+
+}  // namespace ZAFHartTypes

@@ -1,0 +1,112 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <map>
+#include <memory>
+#include <string>
+
+#include "ddobjects/DataItem.h"
+#include "ddobjects/KeyedList.h"
+#include "interfaces/Codes.h"
+
+namespace ZAFHartTypes {
+
+enum class ExchangeState : std::int32_t {
+  Created = 0,
+  Queued = 1,
+  InProgress = 2,
+  Completed = 3,  // with a reply
+  NoReply = 4,
+  Cancelled = 5,
+};
+constexpr bool IsUnderWay(ExchangeState state) {
+  return state == ExchangeState::Queued || state == ExchangeState::InProgress;
+}
+
+enum class ExchangeResult : std::int32_t { None = 0, ReplyPresent = 1 };
+enum class ResponseType : std::int32_t { Bytes = 0, NamedValues = 1 };
+
+class Exchange;
+
+// Receives the end of an exchange.
+class ICommCallback {
+ public:
+  virtual ~ICommCallback() = default;
+  virtual void CommCallback_Finisched(const std::shared_ptr<Exchange>& exchange) = 0;
+};
+
+// One request to a device and its reply. The wrapper fills in the address and the request, a link
+// fills in the reply and finishes it. Data are texts of hexadecimal digits, two per byte ("0040").
+class Exchange : public std::enable_shared_from_this<Exchange> {
+ public:
+  std::int16_t CommandNumber() const { return commandNumber_; }
+  void SetCommandNumber(std::int16_t number) { commandNumber_ = number; }
+  std::int16_t PollAddress() const { return pollAddress_; }
+  void SetPollAddress(std::int16_t address) { pollAddress_ = address; }
+  const std::string& Tag() const { return tag_; }
+  void SetTag(std::string tag) { tag_ = std::move(tag); }
+  const std::string& LongAddress() const { return longAddress_; }
+  void SetLongAddress(std::string address) { longAddress_ = std::move(address); }
+  // Data bytes of the request.
+  const std::string& RequestData() const { return requestData_; }
+  void SetRequestData(std::string hex) { requestData_ = std::move(hex); }
+  // Before the exchange: the reply that the data set would give, for links that echo. After it: the
+  // reply, from the response code byte on.
+  const std::string& ReplyData() const { return replyData_; }
+  void SetReplyData(std::string hex) { replyData_ = std::move(hex); }
+  // The transaction whose items the data stand for; nothing for an empty exchange.
+  const std::shared_ptr<Transaction>& ItemsOf() const { return transaction_; }
+  void SetItemsOf(std::shared_ptr<Transaction> transaction) {
+    transaction_ = std::move(transaction);
+  }
+  const DataItemList* RequestItems() const;
+  const DataItemList* ReplyItems() const;
+
+  ExchangeState State() const { return state_; }
+  void SetState(ExchangeState state) { state_ = state; }
+  ExchangeResult Result() const { return result_; }
+  void SetResult(ExchangeResult result) { result_ = result; }
+  // NamedValues: the link gives the reply as values by variable name instead of bytes.
+  ZAFHartTypes::ResponseType ResponseType() const { return responseType_; }
+  void SetResponseType(ZAFHartTypes::ResponseType type) { responseType_ = type; }
+  KeyedList<Variant>& ResponseInfo() { return responseInfo_; }
+  const KeyedList<Variant>& ResponseInfo() const { return responseInfo_; }
+
+  // Receives the end; not owned.
+  void SetCallback(std::weak_ptr<ICommCallback> callback) { callback_ = std::move(callback); }
+  // Carried unchanged to the callback.
+  const std::shared_ptr<CommandRef>& UserData() const { return userData_; }
+  void SetUserData(std::shared_ptr<CommandRef> data) { userData_ = std::move(data); }
+
+  // For links: ends the exchange and tells the callback. A second end is ignored.
+  void Finish(ExchangeState state, ExchangeResult result);
+
+ private:
+  std::int16_t commandNumber_ = 0;
+  std::int16_t pollAddress_ = 0;
+  std::string tag_;
+  std::string longAddress_;
+  std::string requestData_;
+  std::string replyData_;
+  std::shared_ptr<Transaction> transaction_;
+  ExchangeState state_ = ExchangeState::Created;
+  ExchangeResult result_ = ExchangeResult::None;
+  ZAFHartTypes::ResponseType responseType_ = ZAFHartTypes::ResponseType::Bytes;
+  KeyedList<Variant> responseInfo_;
+  std::weak_ptr<ICommCallback> callback_;
+  std::shared_ptr<CommandRef> userData_;
+};
+
+// The way to a device. Links are created by class name.
+class ILink {
+ public:
+  virtual ~ILink() = default;
+  // Starts the exchange and returns; its state changes arrive through the message loop. A link that
+  // needs no time may have finished it before it returns. Raises when it cannot be driven at all.
+  virtual void Execute(const std::shared_ptr<Exchange>& exchange) = 0;
+  // Ends an exchange under way as Cancelled; one that is not under way is left alone.
+  virtual void Cancel(const std::shared_ptr<Exchange>& exchange) = 0;
+};
+
+}  // namespace ZAFHartTypes

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <string_view>
+
+namespace ZAFHartTypes {
+
+// An immutable UTF-8 text that copies by reference. A default-made one is "".
+class SharedText {
+ public:
+  SharedText() = default;
+  SharedText(std::string text)  // NOLINT(google-explicit-constructor)
+      : text_(text.empty() ? nullptr : std::make_shared<const std::string>(std::move(text))) {}
+  SharedText(std::string_view text) : SharedText(std::string(text)) {}  // NOLINT
+  SharedText(const char* text) : SharedText(std::string(text)) {}       // NOLINT
+
+  bool IsEmpty() const { return text_ == nullptr; }
+  const std::string& Text() const;
+  operator const std::string&() const { return Text(); }  // NOLINT(google-explicit-constructor)
+
+  friend bool operator==(const SharedText& a, const SharedText& b) {
+    return a.text_ == b.text_ || a.Text() == b.Text();
+  }
+
+ private:
+  std::shared_ptr<const std::string> text_;
+};
+
+}  // namespace ZAFHartTypes

@@ -1,0 +1,55 @@
+#pragma once
+
+#include <cstddef>
+#include <functional>
+#include <string>
+#include <string_view>
+
+namespace ZAFHartTypes {
+
+// UTF-8 text with letter case taken away: ASCII, Latin-1, Greek and Cyrillic letters, "°", "Ω" (the
+// unit sign and the letter are one) and the like. Keys of every keyed list compare through it.
+std::string FoldCase(std::string_view text);
+bool SameKey(std::string_view a, std::string_view b);
+
+// A name interned for the life of the process: comparing two costs a pointer comparison.
+// Names come from DDs and from code, so their number is bounded.
+class TextKey {
+ public:
+  TextKey() = default;
+  // The key of a name, made when it is new.
+  static TextKey Of(std::string_view name);
+
+  bool IsEmpty() const { return entry_ == nullptr; }
+  // The name as it was first written in exactly this letter case.
+  const std::string& Name() const;
+  const std::string& Folded() const;
+
+  // Same item: the names differ in letter case at most.
+  friend bool operator==(TextKey a, TextKey b) { return a.FoldedEntry() == b.FoldedEntry(); }
+  std::size_t Hash() const { return std::hash<const void*>{}(FoldedEntry()); }
+
+ private:
+  struct Entry;
+  explicit TextKey(const Entry* entry) : entry_(entry) {}
+  const std::string* FoldedEntry() const;
+
+  const Entry* entry_ = nullptr;
+
+  friend struct TextKeyPool;
+};
+
+struct TextKeyHash {
+  std::size_t operator()(TextKey key) const { return key.Hash(); }
+};
+
+struct TextKey::Entry {
+  std::string name;
+  const std::string* folded;  // shared by all names that differ in letter case only
+};
+
+inline const std::string* TextKey::FoldedEntry() const {
+  return entry_ ? entry_->folded : nullptr;
+}
+
+}  // namespace ZAFHartTypes
