@@ -2,8 +2,17 @@
 
 #include <cstdint>
 #include <string>
+#include <vector>
 
 namespace ZAFHartTypes {
+
+// A running operation that tells its trace lines when somebody wants them: its name line first,
+// then its inputs.
+class ITracedOperation {
+ public:
+  virtual ~ITracedOperation() = default;
+  virtual std::vector<std::string> TraceLines(std::int32_t infoLevel) const = 0;
+};
 
 // The trace object of one running operation, handed out by IDDDTMGUI::TraceObject. It opens one
 // level of the trace stack at most. Results carry no information (0).
@@ -15,6 +24,13 @@ class IDDDebugTracer {
   virtual void SetTraceInfoLevel(std::int32_t level) = 0;
   // Opens this object's level; without effect when it is open.
   virtual std::int32_t AddStack(const std::string& text) = 0;
+  // The same for an operation whose lines are not built unless somebody reads them: the error
+  // report, a tracer that accepts the level (which gets them at once, the empty line after the
+  // inputs included), or FixStack. `operation` must outlive the level or FixStack.
+  virtual void OpenStack(const ITracedOperation& operation) = 0;
+  // Keeps the open level's lines as text and lets go of its operation. Called before an operation
+  // ends without ReleaseStack, so that its texts reach the error report.
+  virtual void FixStack() = 0;
   // Adds a line to the open level; "" ends the inputs.
   virtual std::int32_t TraceStack(const std::string& text) = 0;
   // Closes the open level and what was left open below it.
@@ -22,8 +38,8 @@ class IDDDebugTracer {
   // A free line, kept nowhere. Level -1 passes every filter.
   virtual std::int32_t TraceText(std::int32_t level, const std::string& text) = 0;
 
-  // Whether anybody would see a stack line of this object's level beyond the error report, and a
-  // free line of `level`: callers build no texts for nobody.
+  // Whether an external tracer takes stack lines of the open level, and free lines of `level`:
+  // callers build no texts for nobody.
   virtual bool WantsStack() const = 0;
   virtual bool WantsText(std::int32_t level) const = 0;
 };
