@@ -21,11 +21,13 @@ class ComponentClasses {
  public:
   using Factory = std::function<std::shared_ptr<Object>()>;
 
-  // Replaces an earlier registration of the same name.
+  // Replaces an earlier registration of the same name. Raises InvalidArgument for a name of another
+  // form and for an empty factory.
   void Register(std::string_view className, Factory factory);
 
   // Raises CannotCreateObject for an unknown class, a missing or unusable plug-in and a plug-in of
   // another version; the description names the class, the project, the file and what is wrong.
+  // A Failure of the factory passes, another std::exception becomes CannotCreateObject.
   std::shared_ptr<Object> Create(std::string_view className);
 
   // Create, then the interface; raises TypeMismatch when the object does not offer it.
@@ -41,16 +43,21 @@ class ComponentClasses {
   const std::vector<std::filesystem::path>& PluginPath() const { return pluginPath_; }
 
   // Loads one plug-in file and registers its classes; what Create does for an unknown project.
-  // Returns the names of its classes.
+  // Returns the names of its classes. Raises InvalidArgument for a relative path and
+  // CannotCreateObject, naming the file, when it cannot be used.
   std::vector<std::string> LoadPlugin(const std::filesystem::path& file);
 
   std::vector<std::string> RegisteredNames() const;
 
  private:
   [[noreturn]] static void RaiseWrongInterface(std::string_view className);
+  [[noreturn]] void RaiseUnknownClass(std::string_view className, const std::string& project) const;
+  bool HasClassOf(const std::string& project) const;
   void LoadProject(std::string_view className, const std::string& project);
 
+  // By folded name: the name as registered, and its factory.
   std::map<std::string, std::pair<std::string, Factory>, std::less<>> factories_;
+  std::map<std::string, std::filesystem::path> plugins_;  // by folded project
   std::vector<std::filesystem::path> pluginPath_;
 };
 

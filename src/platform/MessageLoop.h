@@ -31,7 +31,8 @@ class Subscription {
 class HostLoop {
  public:
   virtual ~HostLoop();
-  // NextDue() has changed: re-arm the host's timer, then call RunDue() when it fires.
+  // NextDue() has changed: re-arm the host's timer, then call RunDue() when it fires. Must not
+  // throw, nor run handlers.
   virtual void OnNextDueChanged() = 0;
   // Runs the host's events until `until` (Clock::Now() time) at the latest; may return earlier.
   virtual void RunHostEvents(Milliseconds until) = 0;
@@ -50,9 +51,11 @@ class MessageLoop {
   MessageLoop(const MessageLoop&) = delete;
   MessageLoop& operator=(const MessageLoop&) = delete;
 
+  // The three calls raise InvalidArgument for an empty handler.
   // Runs `handler` once at the next pump, in the order of posting.
   [[nodiscard]] Subscription Post(Handler handler);
-  // Runs `handler` every `interval` (at least 1 ms), first after one interval.
+  // Runs `handler` every `interval` (at least 1 ms), first after one interval. A late tick stands
+  // for all that were missed.
   [[nodiscard]] Subscription StartTimer(Milliseconds interval, Handler handler);
   // Runs `handler` once, after `delay`.
   [[nodiscard]] Subscription StartOnce(Milliseconds delay, Handler handler);
@@ -75,6 +78,7 @@ class MessageLoop {
   void SetFailureSink(FailureSink sink);
 
  private:
+  friend class Subscription;
   class Queue;
   std::shared_ptr<Queue> queue_;
 };

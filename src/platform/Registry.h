@@ -10,17 +10,19 @@
 namespace platform {
 
 // A tree of keys addressed by full path ("\HKEY_LOCAL_MACHINE\SOFTWARE\…"), each with named text
-// values and ordered subkeys. Paths and value names compare without regard to letter case. Lives in
-// memory; text files bring it in and out.
+// values and ordered subkeys. Paths and value names compare without regard to ASCII letter case.
+// Lives in memory; text files bring it in and out.
 //
 // File form: "[path]" lines open a key, "name=value" lines set values of it, ";" starts a comment
-// line.
+// line. Blanks around names and values are trimmed; one pair of quotes around a value is taken off.
 class Registry {
  public:
   bool HasKey(std::string_view path) const;
   // Nothing when the key or the value is absent.
   std::optional<std::string> Value(std::string_view path, std::string_view name) const;
-  // Creates the key (and the keys above it) when it is absent.
+  // Creates the key (and the keys above it) when it is absent. Raises InvalidArgument for what a
+  // file could not hold: line breaks, "]" in a path, an empty name, "=" in a name, blanks around
+  // either.
   void SetValue(std::string_view path, std::string_view name, std::string value);
   void CreateKey(std::string_view path);
   // Names of the direct subkeys, in the order they were made.

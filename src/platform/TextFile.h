@@ -26,8 +26,12 @@ class TextReader {
   bool first_ = true;
 };
 
+// The bytes of a file. Raises as TextReader does.
+std::string ReadWholeFile(const std::filesystem::path& file);
+
 // Writes a new file beside the old one and renames it over it, so that the old one stays whole when
-// anything fails. Raises PathFileAccess naming the file and the reason.
+// anything fails. Permissions and a symbolic link stay. Raises PathFileAccess naming the file and
+// the reason, also for a file that nobody may write.
 void WriteFileAtomically(const std::filesystem::path& file, std::string_view content);
 
 }  // namespace platform

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 namespace platform {
 
@@ -13,9 +14,13 @@ struct UserLocale {
   // `year` is the full year. The parts are written as given, also when they form no valid date.
   std::string FormatShortDate(int day, int month, int year) const;
 
-  // The conventions of the process environment (LC_ALL, LC_NUMERIC, LC_TIME); "C" gives the
-  // defaults above.
+  // The conventions of the process environment (LC_ALL, else LC_NUMERIC and LC_TIME, else LANG).
+  // "C", a locale that the system does not have and a date with other parts give the defaults
+  // above. Leaves the process-wide locale alone.
   static UserLocale FromEnvironment();
 };
+
+// The short date format for a date format of strftime ("%d.%m.%Y"); empty when it has other parts.
+std::string ShortDateFormatOf(std::string_view strftimeFormat);
 
 }  // namespace platform

@@ -1,0 +1,191 @@
+#include <gtest/gtest.h>
+
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include "platform/MessageLoop.h"
+
+namespace platform {
+namespace {
+
+using namespace std::chrono_literals;
+
+struct MessageLoopTest : testing::Test {
+  ManualClock clock{1000ms};
+  std::optional<MessageLoop> loop{std::in_place, clock};
+  std::string log;
+
+  MessageLoop::Handler Log(char c) {
+    return [this, c] { log += c; };
+  }
+  bool PumpAfter(Milliseconds time) {
+    clock.Advance(time);
+    return loop->Pump();
+  }
+};
+
+TEST_F(MessageLoopTest, RunsInOrderOfTimeAndPostingAndLeavesWhatHandlersAdd) {
+  Subscription added;
+  const auto late = loop->StartOnce(30ms, Log('l'));
+  const auto early = loop->StartTimer(20ms, [&] { added = loop->Post(Log('a')); });
+  const auto first = loop->Post(Log('1'));
+  const auto second = loop->Post(Log('2'));
+  EXPECT_TRUE(PumpAfter(35ms));
+  EXPECT_EQ(log, "12l");
+  EXPECT_FALSE(first.IsActive());
+  EXPECT_TRUE(loop->Pump());
+  EXPECT_FALSE(loop->Pump());
+  EXPECT_EQ(log, "12la");
+}
+
+TEST_F(MessageLoopTest, ALateTickStandsForAllThatWereMissed) {
+  const auto timer = loop->StartTimer(200ms, Log('t'));
+  EXPECT_FALSE(PumpAfter(199ms));
+  EXPECT_TRUE(PumpAfter(1ms));
+  EXPECT_TRUE(PumpAfter(750ms));  // due at 400, 600 and 800
+  EXPECT_FALSE(loop->Pump());
+  EXPECT_EQ(log, "tt");
+  EXPECT_EQ(loop->NextDue(), 2000ms);
+}
+
+TEST_F(MessageLoopTest, NestedWaitNeitherReentersNorRepeats) {
+  const auto timer = loop->StartTimer(10ms, [&] {
+    log += '(';
+    for (int i = 0; i < 5; ++i) loop->WaitStep(20ms);
+    log += ')';
+  });
+  const auto other = loop->StartOnce(10ms, Log('o'));
+  const auto later = loop->StartOnce(60ms, Log('l'));
+  EXPECT_TRUE(PumpAfter(10ms));
+  EXPECT_EQ(log, "(ol)");
+  // The first step waits for nothing and the fourth ends early; the ticks missed meanwhile are one.
+  EXPECT_EQ(clock.Now(), 1080ms);
+  EXPECT_EQ(loop->NextDue(), 1020ms);
+  log.clear();
+  EXPECT_TRUE(loop->Pump());
+  EXPECT_EQ(log, "()");
+}
+
+TEST_F(MessageLoopTest, CancelledHandlersDoNotRun) {
+  auto kept = std::make_shared<int>(0);
+  const std::weak_ptr<int> watch = kept;
+  Subscription victim = loop->Post([this, kept] { log += 'v'; });
+  kept.reset();
+  const auto canceller = loop->StartOnce(0ms, Log('c'));
+  victim.Cancel();
+  EXPECT_TRUE(watch.expired()) << "what the handler held goes with it";
+  { const auto gone = loop->Post(Log('g')); }
+  loop->Pump();
+  EXPECT_EQ(log, "c");
+}
+
+TEST_F(MessageLoopTest, HandlersCancelThemselvesAndOthers) {
+  Subscription other;
+  auto held = std::make_shared<std::string>("held");
+  Subscription self = loop->StartTimer(1ms, [this, &self, &other, held] {
+    self.Cancel();
+    other = {};
+    log += *held;  // still there
+  });
+  const std::weak_ptr<std::string> watch = held;
+  held.reset();
+  other = loop->StartTimer(1ms, Log('o'));
+  PumpAfter(1ms);
+  EXPECT_FALSE(PumpAfter(10ms));
+  EXPECT_EQ(log, "held");
+  EXPECT_TRUE(watch.expired());
+  EXPECT_EQ(loop->NextDue(), std::nullopt);
+}
+
+TEST_F(MessageLoopTest, AHandlerMayReplaceItsOwnSubscription) {
+  Subscription once;
+  once = loop->Post([&] {
+    EXPECT_FALSE(once.IsActive());
+    once = loop->StartOnce(5ms, Log('2'));
+    log += '1';
+  });
+  loop->Pump();
+  PumpAfter(5ms);
+  EXPECT_EQ(log, "12");
+}
+
+TEST_F(MessageLoopTest, TheLoopMayGoFirst) {
+  auto timer = loop->StartTimer(1ms, Log('t'));
+  const auto killer = loop->Post([&] {
+    log += 'k';
+    loop.reset();
+  });
+  MessageLoop& dying = *loop;
+  dying.WaitStep(20ms);
+  EXPECT_EQ(log, "k");
+  EXPECT_FALSE(timer.IsActive());
+  timer.Cancel();
+}
+
+TEST_F(MessageLoopTest, FailuresGoToTheSink) {
+  std::vector<std::string> failures;
+  auto failing = loop->StartTimer(1ms, [] { throw Failure(ErrorNumber::Overflow, "test"); });
+  EXPECT_TRUE(PumpAfter(1ms));  // dropped
+  loop->SetFailureSink([&](const Failure& failure) {
+    failures.push_back(failure.Description());
+    throw failure;
+  });
+  const auto next = loop->StartOnce(1ms, Log('n'));
+  EXPECT_TRUE(PumpAfter(1ms));
+  EXPECT_EQ(failures, std::vector<std::string>{"Overflow"});
+  EXPECT_EQ(log, "n");
+  failing = loop->StartTimer(1ms, [] { throw std::logic_error("bug"); });
+  for (int i = 0; i < 2; ++i) EXPECT_THROW(PumpAfter(1ms), std::logic_error);
+}
+
+class FakeHost : public HostLoop {
+ public:
+  FakeHost(ManualClock& clock, MessageLoop& loop) : clock_(clock), loop_(loop) {}
+  void OnNextDueChanged() override { armed.push_back(loop_.NextDue()); }
+  void RunHostEvents(Milliseconds until) override {
+    ran.push_back(until);
+    clock_.Advance(std::min(until - clock_.Now(), longestSleep));
+  }
+  std::vector<std::optional<Milliseconds>> armed;
+  std::vector<Milliseconds> ran;
+  Milliseconds longestSleep{1000};
+
+ private:
+  ManualClock& clock_;
+  MessageLoop& loop_;
+};
+
+TEST_F(MessageLoopTest, TheHostIsToldWhenToWake) {
+  using Moments = std::vector<std::optional<Milliseconds>>;
+  FakeHost host(clock, *loop);
+  const auto before = loop->StartOnce(50ms, Log('b'));
+  loop->SetHostLoop(&host);
+  const auto later = loop->StartOnce(90ms, Log('l'));
+  auto sooner = loop->StartOnce(10ms, Log('s'));
+  sooner.Cancel();
+  EXPECT_EQ(host.armed, (Moments{1050ms, 1010ms, 1050ms}));
+  host.armed.clear();
+  clock.Advance(100ms);
+  EXPECT_TRUE(loop->RunDue());
+  EXPECT_EQ(log, "bl");
+  EXPECT_EQ(host.armed, (Moments{1090ms, std::nullopt}));
+  EXPECT_TRUE(host.ran.empty());
+  loop->SetHostLoop(nullptr);
+}
+
+TEST_F(MessageLoopTest, TheHostRunsItsEventsInPumpsAndWaits) {
+  FakeHost host(clock, *loop);
+  loop->SetHostLoop(&host);
+  const auto once = loop->StartOnce(5ms, Log('o'));
+  loop->Pump();
+  loop->WaitStep(20ms);
+  EXPECT_EQ(log, "o");
+  host.longestSleep = 3ms;  // a host event ends the wait
+  loop->WaitStep(20ms);
+  EXPECT_EQ(host.ran, (std::vector<Milliseconds>{1000ms, 1005ms, 1025ms}));
+  EXPECT_EQ(clock.Now(), 1008ms);
+}
+
+}  // namespace
+}  // namespace platform
