@@ -1,5 +1,5 @@
-#include "platform/Plugin.h"
 #include "Widget.h"
+#include "platform/Plugin.h"
 
 namespace {
 
