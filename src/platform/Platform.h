@@ -53,7 +53,8 @@ class Platform {
   RandomSource random_;
 };
 
-// The platform of the calling thread; made with the system's clock on first use.
+// The platform of the calling thread; made on first use, with the system's clock and the locale of
+// the process environment. A Platform made otherwise has the default locale.
 Platform& Current();
 
 // Makes another platform the current one of this thread until the scope ends.
