@@ -1,0 +1,148 @@
+#pragma once
+
+#include <cstdint>
+
+namespace ZAFHartLib {
+
+// Numbers of the library's string resources. Where a code is added to a number (status bits,
+// response codes, item indexes), the text of the sum may be absent; it then reads as "".
+enum enumDDResourceIDs : std::int32_t {
+  idStrAbort = 100,
+
+  // Failures of DD methods; "%{…}" references are filled in by FormatDDString.
+  idErrVarNameNotDefined = 1000,
+  idErrWrongContext = 1001,
+  idErrWrongVarType = 1002,
+  idErrCommStatus = 1004,
+  idErrDeviceStatus = 1005,
+  idErrCommand = 1006,
+  idErrCommandResp = 1007,
+  idErrXmtrStatus = 1008,
+  idErrXmtrResp = 1009,
+  idErrMethodNotInList = 1013,
+  idErrNoConnection = 1051,
+
+  // Communication status: 1100 + number of the bit of the HART communication error byte.
+  idCommStatusEntry = 1100,
+  idBufferOverflow = 1101,
+  idLongitudinalParityError = 1103,
+  idFramingError = 1104,
+  idOverrunError = 1105,
+  idVerticalParityError = 1106,
+  idMessageTimeOutError = 1107,
+
+  // Field device status: 1155 + number of the bit of the device status byte.
+  idDeviceStatusEntry = 1154,
+  idPVOutOfLimits = 1155,
+  idNonPVOutOfLimits = 1156,
+  idPVAnalogOutputSaturated = 1157,
+  idPVAnalogOutputFixed = 1158,
+  idMoreStatusAvailable = 1159,
+  idColdStart = 1160,
+  idConfigurationChanged = 1161,
+  idDeviceMalfunction = 1162,
+
+  // Object errors: 1200 + item index.
+  idErrCyclicCommand = 1198,
+  idErrCyclicVariable = 1199,
+  idDDErrorCodes = 1200,
+  idErrCannotRead = 1201,
+  idErrNoCommunication = 1202,
+  idErrReadNotValid = 1203,
+  idErrCannotWrite = 1204,
+  idErrNotWritable = 1205,
+  idErrWriteNotValid = 1206,
+  idErrUnknownMenuItem = 1207,
+  idErrDisplayItemNotVariable = 1208,
+  idErrEditItemNotEditable = 1209,
+  idErrNotAnEditItem = 1210,
+  idErrNotAllChecked = 1211,
+  idErrMethodNotValid = 1212,
+  idErrNotCurrentlyEditable = 1213,
+
+  idSpecificError = 1350,
+  idTitleCommandError = 1400,
+  idResponseCode = 1401,
+  idCommunicationMenu = 1500,
+
+  idDynamicRefresh = 1601,
+  idDynamicRefreshHelp = 1602,
+  idLoadFromDevice = 1603,
+  idSaveToDevice = 1605,
+  idWriteChanges = 1607,
+  idDynamicRefreshNone = 1650,
+  idDynamicRefresh5s = 1651,
+  idDynamicRefresh10s = 1652,
+  idDynamicRefresh20s = 1653,
+  idDynamicRefresh30s = 1654,
+  idDynamicRefresh60s = 1655,
+  idStaticRefresh = 1660,
+  idStaticRefreshHelp = 1661,
+  idStaticRefreshNone = 1662,
+  idStaticRefresh2min = 1663,
+  idStaticRefresh5min = 1664,
+  idStaticRefresh10min = 1665,
+  idStaticRefresh20min = 1666,
+  idStaticRefresh30min = 1667,
+  idStaticRefresh60min = 1668,
+  idRefreshOnConnect = 1680,
+  idRefreshOnConnectHelp = 1681,
+  idRefreshOnConnectNone = 1682,
+  idRefreshOnConnectAll = 1683,
+
+  // Standard response codes of HART devices: 1700 + code. Codes whose meaning depends on the
+  // command have no text.
+  idResponseCodeEntry = 1700,
+  idInvalidSelection = 1702,
+  idValueTooHigh = 1703,
+  idValueTooLow = 1704,
+  idTooFewDataBytes = 1705,
+  idDeviceSpecificError = 1706,
+  idWriteProtected = 1707,
+  idAccessRestricted = 1716,
+  idInvalidDeviceVariable = 1717,
+  idInvalidUnitsCode = 1718,
+  idDeviceVariableNotAllowed = 1719,
+  idInvalidExtendedCommand = 1720,
+  idDeviceBusy = 1732,
+  idDelayedResponseInitiated = 1733,
+  idDelayedResponseRunning = 1734,
+  idDelayedResponseDead = 1735,
+  idDelayedResponseConflict = 1736,
+  idCommandNotImplemented = 1764,
+
+  idProgress = 1800,
+  idAction = 1801,
+  idStep = 1802,
+  idOfflineParameters = 1803,
+  idProcessVariables = 1804,
+  idTransmitterStatus = 1805,
+  idStatus = 1806,
+  idOnlineMode = 1807,
+  idModeOffline = 1808,
+  idModeOnline = 1809,
+  idModeOnlineSynchronous = 1810,
+  idLastCommunicationError = 1811,
+
+  idInternalError = 1900,
+  idActionAborted = 1901,
+
+  idNotConnected = 3001,
+  idNoDeviceFound = 3002,
+  idWrongDevice = 3003,
+  idConnecting = 3004,
+  idCheckDeviceType = 3005,
+  idPreparingDisconnect = 3006,
+  idDisconnecting = 3007,
+  idConnected = 3010,
+  idWaiting = 3100,
+
+  idTitleError = 11001,
+  idHelpError = 11002,
+  idTitleCriticalError = 11003,
+  idHelpCriticalError = 11004,
+  idTitleMessage = 11005,
+  idTitleInputMessage = 11006,
+};
+
+}  // namespace ZAFHartLib
