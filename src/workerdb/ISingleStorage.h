@@ -1,0 +1,22 @@
+#pragma once
+
+#include <memory>
+
+#include "ddobjects/DDObject.h"
+#include "interfaces/Codes.h"
+
+namespace ZAFHartLib {
+
+// What a worker database asks of the manager that pairs an offline and an online data set.
+class ISingleStorage {
+ public:
+  virtual ~ISingleStorage() = default;
+  // The item has one value for both data sets.
+  virtual bool IsSingleStorageObject(const ZAFHartTypes::Definition& definition) const = 0;
+  // `object`, an independent copy, has changed in the database of mode `source`. Failures of the
+  // receiving database or its GUI manager pass.
+  virtual void Update(ZAFHartTypes::StorageMode source,
+                      const std::shared_ptr<ZAFHartTypes::DDObject>& object) = 0;
+};
+
+}  // namespace ZAFHartLib
