@@ -1,0 +1,53 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <set>
+#include <unordered_map>
+#include <vector>
+
+#include "types/TextKey.h"
+
+namespace ZAFHartLib {
+
+// Which entries of an ordered list are worth a visit for a key, when visiting all would be too
+// slow. An entry is posted under the keys it answers to and watches the objects that its posting
+// was made from. It is suspect, to be visited for every key, before its first posting and from the
+// moment that a watched object goes stale until it is posted anew.
+class PostingIndex {
+ public:
+  using Key = ZAFHartTypes::TextKey;
+  static constexpr std::size_t kNone = static_cast<std::size_t>(-1);
+
+  // Starts anew with `count` suspect entries.
+  void Reset(std::size_t count);
+  std::size_t Count() const { return entries_.size(); }
+
+  // Replaces the posting of an entry. Unless it is `settled`, the entry stays suspect.
+  void Post(std::size_t position, std::vector<Key> keys, std::vector<Key> watched, bool settled);
+  void Suspect(std::size_t position) { suspects_.insert(position); }
+  bool IsSuspect(std::size_t position) const { return suspects_.contains(position); }
+  void ObjectStale(Key object);
+
+  // First position from `from` on that is posted under `key` or suspect; kNone at the end.
+  std::size_t Next(Key key, std::size_t from) const;
+  std::size_t NextSuspect(std::size_t from) const;
+
+ private:
+  using Positions = std::set<std::size_t>;
+  using PositionsByKey = std::unordered_map<Key, Positions, ZAFHartTypes::TextKeyHash>;
+  struct Entry {
+    std::vector<Key> keys;
+    std::vector<Key> watched;
+  };
+  static void Replace(PositionsByKey& map, std::vector<Key>& old, std::vector<Key> now,
+                      std::size_t position);
+  static std::size_t FirstFrom(const Positions& positions, std::size_t from);
+
+  std::vector<Entry> entries_;
+  PositionsByKey postings_;
+  PositionsByKey watchers_;
+  Positions suspects_;
+};
+
+}  // namespace ZAFHartLib
