@@ -3,6 +3,7 @@
 #include <cmath>
 #include <cstdio>
 
+#include "platform/AsciiText.h"
 #include "platform/Platform.h"
 #include "types/NumberText.h"
 
@@ -124,9 +125,8 @@ std::string DateToText(double serial) {
 }
 
 std::optional<double> TextToDate(std::string_view text) {
-  const std::size_t first = text.find_first_not_of(' ');
-  if (first == std::string_view::npos) return {};
-  text = text.substr(first, text.find_last_not_of(' ') - first + 1);
+  text = platform::Trim(text);
+  if (text.empty()) return {};
   for (const std::string_view format :
        {std::string_view{"yyyy-MM-dd"},
         std::string_view{platform::Current().Locale().shortDateFormat}}) {

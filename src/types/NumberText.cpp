@@ -5,23 +5,15 @@
 #include <charconv>
 #include <cmath>
 
+#include "platform/AsciiText.h"
 #include "platform/Platform.h"
 #include "types/Failure.h"
-#include "types/TextKey.h"
 
 namespace ZAFHartTypes {
 namespace {
 
-constexpr std::string_view kBlanks = " \t\r\n\v\f";
-
 const std::string& Separator() {
   return platform::Current().Locale().decimalSeparator;
-}
-
-std::string_view Trimmed(std::string_view text) {
-  const std::size_t first = text.find_first_not_of(kBlanks);
-  if (first == std::string_view::npos) return {};
-  return text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
 }
 
 bool TakeSign(std::string_view& text) {
@@ -114,16 +106,16 @@ std::string ScaledToText(std::int64_t mantissa, unsigned scale) {
 }
 
 std::optional<double> TextToNumber(std::string_view text) {
-  const NumberParts parts = Split(Trimmed(text));
+  const NumberParts parts = Split(platform::Trim(text));
   if (!parts.ok) return {};
   const double value = Evaluate(parts);
   return parts.negative ? -value : value;
 }
 
 std::optional<bool> TextToBoolean(std::string_view text) {
-  const std::string_view word = Trimmed(text);
-  if (SameKey(word, "True")) return true;
-  if (SameKey(word, "False")) return false;
+  const std::string_view word = platform::Trim(text);
+  if (platform::EqualsNoCase(word, "True")) return true;
+  if (platform::EqualsNoCase(word, "False")) return false;
   return {};
 }
 
