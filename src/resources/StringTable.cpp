@@ -34,22 +34,21 @@ constexpr auto kTable = std::to_array<StringResource>({
 
     {idDeviceStatusEntry, "Hardware Device Status|de|Geräte Status"},
     {idPVOutOfLimits,
-     "Process applied to the primary variable is outside the operating limits of the field device"
+     "Process applied to the primary variable is outside the operating limits of the field "
+     "device"
      "|de|Prozeß der Hauptvariablen ist außerhalb des Arbeitsbereiches des Feldgeräts"},
     {idNonPVOutOfLimits,
      "Process applied to the non-primary variable is outside the operating limits of the field "
      "device"
      "|de|Prozeß der Nebenvariablen ist außerhalb des Arbeitsbereiches des Feldgeräts"},
     {idPVAnalogOutputSaturated,
-     "Analog output 1 and its digital representation are outside the operating range limits, and "
-     "not "
-     "responding to input"
+     "Analog output 1 and its digital representation are outside the operating range limits, "
+     "and not responding to input"
      "|de|Analogausgang 1 und der digitale Wert sind außerhalb Meßbereich, keine Reaktion auf "
      "Eingangswert"},
     {idPVAnalogOutputFixed,
      "Analog output 1 and its digital representation are in fixed mode, and not responsive to "
-     "input "
-     "changes"
+     "input changes"
      "|de|Analogausgang 1 und der digitale Wert sind auf Festwert, keine Uebereinstimmung mit "
      "Eingangswert"},
     {idMoreStatusAvailable,
@@ -126,16 +125,13 @@ constexpr auto kTable = std::to_array<StringResource>({
     {idRefreshOnConnectHelp,
      "Sets the behavior for the connect.\r\n"
      "If refresh is switched off, data that was loaded from the device in a previous session is "
-     "not "
-     "loaded from the device again. Update of the data is then dependend only from the refresh "
-     "intervalls.\r\n"
+     "not loaded from the device again. Update of the data is then dependend only from the "
+     "refresh intervalls.\r\n"
      "If refresh is switched on, all data will be loaded from the device."
      "|de|Legt das Verhalten beim Verbinden fest.\r\n"
      "Ist die Aktualisierung ausgeschaltet, werden Daten, die in einer früheren Sitzung aus dem "
-     "Gerät "
-     "geladen wurden, nicht erneut geladen. Sie werden dann nur nach den "
-     "Aktualisierungsintervallen "
-     "erneuert.\r\n"
+     "Gerät geladen wurden, nicht erneut geladen. Sie werden dann nur nach den "
+     "Aktualisierungsintervallen erneuert.\r\n"
      "Ist die Aktualisierung eingeschaltet, werden alle Daten aus dem Gerät geladen."},
     {idRefreshOnConnectNone, "No Refresh|de|Keine Aktualisierung"},
     {idRefreshOnConnectAll, "Refresh Data Set|de|Datensatz aktualisieren"},
@@ -146,11 +142,11 @@ constexpr auto kTable = std::to_array<StringResource>({
     {idValueTooLow, "Value was too low|de|Wert war zu klein"},
     {idTooFewDataBytes, "Too few data bytes received|de|Zu wenige Datenbytes empfangen"},
     {idDeviceSpecificError,
-     "Field device specific error|de|Feldgeräte-spez.Fehler|fr|Erreur spécifique instrument"
-     "|kt|fwi-rudodebaisu era-"},
+     "Field device specific error|de|Feldgeräte-spez.Fehler|fr|Erreur spécifique "
+     "instrument|kt|fwi-rudodebaisu era-"},
     {idWriteProtected,
-     "In write protect mode|de|Schreibschutz aktiv|fr|En mode protection d'écriture"
-     "|kt|kakikomikinnsi mo-do"},
+     "In write protect mode|de|Schreibschutz aktiv|fr|En mode protection "
+     "d'écriture|kt|kakikomikinnsi mo-do"},
     {idAccessRestricted, "Access restricted|de|Zugriff eingeschr|kt|siyouseigennsareteimasu"},
     {idInvalidDeviceVariable,
      "Invalid device variable index|de|Ungültiger Index der Gerätevariable"},
@@ -203,9 +199,8 @@ constexpr auto kTable = std::to_array<StringResource>({
     {idHelpCriticalError,
      "Communication with the device is not possible. Check the device, its address and the "
      "connection."
-     "|de|Eine Kommunikation mit dem Gerät ist nicht möglich. Prüfen Sie das Gerät, seine Adresse "
-     "und "
-     "die Verbindung."},
+     "|de|Eine Kommunikation mit dem Gerät ist nicht möglich. Prüfen Sie das Gerät, seine "
+     "Adresse und die Verbindung."},
     {idTitleMessage, "Message|de|Nachricht|fr|Message|it|Messaggio|es|Mensaje"},
     {idTitleInputMessage, "Input Message|de|Eingabemeldung"},
 });

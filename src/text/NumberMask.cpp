@@ -32,6 +32,7 @@ struct Digits {
     std::from_chars(exponent + (*exponent == '+' ? 1 : 0), end, point);
     ++point;
     Keep(kDoubleDigits);
+    if (count == 0) point = 0;
   }
 
   char At(int index) const { return index >= 0 && index < count ? digit[Index(index)] : '0'; }

@@ -49,8 +49,12 @@ constexpr char32_t FoldCyrillic(char32_t c) {
   return c;
 }
 
+constexpr char FoldAscii(char c) {
+  return c >= 'A' && c <= 'Z' ? static_cast<char>(c + 0x20) : c;
+}
+
+// Beyond ASCII.
 constexpr char32_t FoldCodePoint(char32_t c) {
-  if (c < 0x80) return c >= U'A' && c <= U'Z' ? c + 0x20 : c;
   if (c < 0x180) return c == 0xB5 ? 0x3BC : FoldLatin(c);  // the micro sign is the letter mu
   if (c >= 0x370 && c < 0x400) return FoldGreek(c);
   if (c >= 0x400 && c < 0x530) return FoldCyrillic(c);
@@ -74,6 +78,10 @@ std::string FoldCase(std::string_view text) {
   std::string folded;
   folded.reserve(text.size());
   for (std::size_t position = 0; position < text.size();) {
+    if (static_cast<unsigned char>(text[position]) < 0x80) {
+      folded += FoldAscii(text[position++]);
+      continue;
+    }
     const std::size_t start = position;
     const char32_t codePoint = utf8::Next(text, position);
     const char32_t lower = FoldCodePoint(codePoint);

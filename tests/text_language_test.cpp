@@ -1,0 +1,83 @@
+#include <gtest/gtest.h>
+
+#include "resources/ResText.h"
+#include "text/LangText.h"
+#include "text/TextHelpers.h"
+#include "text/Tools.h"
+#include "types/Failure.h"
+
+namespace ZAFHartLib {
+namespace {
+
+TEST(LangTextTest, ChoosesALanguage) {
+  struct Case {
+    std::string text;
+    const char* lang;
+    const char* expected;
+  };
+  const Case cases[] = {{"plain", "de", "plain"},
+                        {"", "de", ""},
+                        {ResText(100), "de", "Vorgang abgebrochen"},
+                        {ResText(100), "it", "Process Aborted"},
+                        {ResText(100), "", "Process AbortedVorgang abgebrochenProcessus abandonné"},
+                        {"|049eins|001one", "en", "one"},
+                        {"|049eins|001one", "de", "eins"},
+                        {"|081zero|de|null", "081", "zero"},
+                        {"|081zero|de|null", "en", "zero"},  // neither: the first segment
+                        {"|de|eins", "fr", "eins"},
+                        {"one|de||fr|un", "fr", "one"},  // an empty segment ends the reading
+                        {"one|de|eins|de|zwei", "de", "einszwei"},
+                        {"|xen|odd", "en", "odd"},  // the code contains "en"
+                        {"|only", "de", "only"},    // no code
+                        {"|only", "", "only"},
+                        {"|ab", "de", ""},
+                        {"|", "de", ""},
+                        {"|0\xC3\xA4|x", "en", "x"},  // "0ä|" counts as a code of three characters
+                        {"one|de|\xFF\xC3", "de", "\xFF\xC3"}};
+  for (const Case& entry : cases) {
+    EXPECT_EQ(LangText(entry.text, entry.lang), entry.expected) << entry.text << " " << entry.lang;
+  }
+}
+
+TEST(TextHelpersTest, ReadsMenuEntries) {
+  EXPECT_EQ(StripMenuName("  Basic Setup [Chart] "), "Basic Setup");
+  EXPECT_EQ(StripMenuName(" Basic Setup "), "Basic Setup");
+  EXPECT_EQ(StripMenuGuiClass("Basic [ Chart ] [Other]"), "Chart");
+  EXPECT_EQ(StripMenuGuiClass("Basic", " Table "), "Table");
+  try {
+    StripMenuGuiClass("]Basic [Chart");
+    FAIL();
+  } catch (const ZAFHartTypes::Failure& failure) {
+    EXPECT_EQ(failure.Number(), ZAFHartTypes::ErrorNumber::InvalidArgument);
+    EXPECT_NE(failure.Description().find("]Basic [Chart"), std::string::npos);
+  }
+}
+
+TEST(TextHelpersTest, FiltersControlCharacters) {
+  struct Case {
+    std::string text;
+    const char* expected;
+    const char* left;
+  };
+  const Case cases[] = {
+      {"a\r\nb", "a b", ""},    {std::string("a\0b", 3), "a", "b"}, {"\ta", " a", ""},
+      {"a \n\n b", "a  b", ""}, {"Größe\x7F", "Größe\x7F", ""},     {"", "", ""}};
+  for (const Case& entry : cases) {
+    std::string text = entry.text;
+    EXPECT_EQ(FilterCtrlChars(text), entry.expected);
+    EXPECT_EQ(text, entry.left);
+  }
+}
+
+TEST(ToolsTest, GivesStandardTexts) {
+  const Tools tools;
+  EXPECT_EQ(tools.AccessStandardString(1100).ToText(),
+            "Communication error|de|Kommunikationsfehler");
+  EXPECT_EQ(tools.AccessStandardString(7), ZAFHartTypes::Variant(""));
+  EXPECT_EQ(tools.GetDDErrorCode(12), "method is not valid|de|Methode ist nicht valid");
+  EXPECT_EQ(tools.GetDDErrorCode(INT32_MAX), "");
+  EXPECT_EQ(tools.LangText("one|049eins", "de"), "eins");
+}
+
+}  // namespace
+}  // namespace ZAFHartLib
