@@ -1,7 +1,7 @@
 #pragma once
 
-#include <array>
 #include <functional>
+#include <map>
 #include <memory>
 #include <span>
 #include <string>
@@ -191,79 +191,88 @@ class CDDWorkerDB : public platform::Object,
     std::shared_ptr<DDObject> object;
     Variable* variable;  // the object itself, nullptr for the other kinds
   };
-  // What a change of a stored variable may have changed besides itself.
+  // What a change of a variable may have changed besides the variable itself.
   struct Marks {
-    explicit Marks(const Variable& variable)
-        : available(variable.Available()),
-          toBeWritten(variable.ToBeWritten()),
-          unitSource(variable.UnitSource().Key()) {}
-    bool available;
-    bool toBeWritten;
+    Marks() = default;  // of a variable that is not stored
+    explicit Marks(const Variable& stored)
+        : available(stored.Available()),
+          missing(!stored.Available()),
+          toBeWritten(stored.ToBeWritten()),
+          unitSource(stored.UnitSource().Key()) {}
+    bool available = false;
+    bool missing = false;
+    bool toBeWritten = false;
     ZAFHartTypes::TextKey unitSource;
   };
   enum class DeviceWrite : bool { No, Yes };
   enum class Propagation : bool { No, Yes };
 
-  // Look-ups; nullptr for an unknown name or another kind.
-  Variable* Stored(const Definition& definition) const;
+  // Look-ups; nullptr for an unknown name and for an object of another kind.
   template <typename View>
-  View* StoredView(const Definition& definition) const;
-  // The Set…/Is… families; an empty definition is every object of the view's kind.
+  static View* ViewOf(const Entry& entry);
+  template <typename View>
+  View* Stored(const Definition& definition) const;
   template <typename View, typename Action>
-  void ForEach(const Definition& definition, Action action);
-  template <typename View>
-  bool Ask(const Definition& definition, bool (View::*question)() const) const;
-  void RequireVariables(const Definition& right, const Definition& left, const char* source) const;
+  void ForAll(Action action);
+  // An empty definition is every object of the view's kind.
+  template <typename View, typename Action>
+  void ForOneOrAll(const Definition& definition, Action action);
 
-  // Every change of a stored variable goes through here.
+  // Every change of a stored variable that may touch its Marks goes through here.
   template <typename Change>
   void Alter(Variable& stored, Change change) {
     const Marks before(stored);
-    change();
+    change(stored);
     AfterChange(stored, before);
   }
   void AfterChange(Variable& stored, const Marks& before);
-  void CountMarkChange(const Variable& stored, VariableMark mark, bool marked);
+  void MissingChanged(ZAFHartTypes::TextKey variable, bool missing);
+  void CountMark(VariableMark mark, ZAFHartTypes::TextKey variable, bool marked);
+  // For use in a change.
   void MakeAvailable(Variable& stored, bool available);
-  void ExpireIfDue(Variable& stored);
+  bool HasExpired(const Variable& stored) const;
+  std::shared_ptr<DDObject> CopyOf(const Entry& entry) const;
   bool Emulating() const;
 
-  void UpdateStaleness(DDObject& stored);
+  void UpdateStaleness(DDObject& stored, const Definition& definition);
   void MakeStale(DDObject& stored);
-  void MakeStale(ZAFHartTypes::TextKey name);
   void InvalidateDependents(ZAFHartTypes::TextKey variable);
   void InvalidateDependents(ZAFHartTypes::TextKey variable, NameSet& visited);
   void AdvanceGeneration();
 
   void SendLifeSignal();
   void Show(Variable& stored) const;
+  void Show(const Definition& definition) const;
   void ApplyDefault(Variable& added);
   void LoadDefaults(const std::string& kernelClassName);
   void SetDefaultsOfVariables();
 
   void StoreValue(const Definition& definition, const Variant& value, DeviceWrite deviceWrite);
-  void TakeValue(Variable& stored, const Variant& value);
+  bool TakeValue(Variable& stored, const Variant& value);
   void WriteToDevice(const Definition& definition, const Variant& value);
   void StoreObject(const std::shared_ptr<DDObject>& object, Propagation propagation);
   void StoreVariable(Variable& incoming, Variable& stored);
-  void Propagate(const DDObject& stored);
+  void CompleteIncoming(Variable& incoming) const;
+  void AssignChanges(Variable& incoming, Variable& stored);
+  void Propagate(const Variable& stored);
 
   void ApplyRefreshTimes(Variable& stored);
   void FollowIntervalVariable(Variable& stored, std::int32_t& interval,
                               void (Variable::*setInterval)(std::int32_t));
 
-  void LoseRefreshedValue(const Definition& variable, Variable& stored);
-  std::shared_ptr<const Variable> WithKnownType(const Definition& definition);
+  void RequireVariables(const Definition& right, const Definition& left, const char* source) const;
+  void LoseRefreshedValue(Variable& stored);
+  std::shared_ptr<Variable> WithKnownType(const Definition& definition);
   void TakeUnitSource(Variable& receiving, const Definition& unit, const std::string& unitText);
   bool RecalculateForUnit(Variable& receiving, const Variable& unit, const std::string& unitText);
+  Variant Converted(const Variable& variable, const std::string& newUnitText) const;
 
-  void ShowSaved(ZAFHartTypes::TextKey name);
-  void RestoreSaved(ZAFHartTypes::TextKey name);
+  void Restore(const std::shared_ptr<Variable>& kept);
   DefinitionList SavedDefinitions() const;
 
   ZAFHartTypes::ModelReference model_;
   ZAFHartTypes::KeyedList<Entry> objects_;
-  mutable std::array<std::unique_ptr<DefinitionsByName>, 10> listsOfKind_;  // made on first use
+  mutable std::map<ObjectKind, DefinitionsByName> listsOfKind_;  // made on first use
   ZAFHartTypes::KeyedList<Variant> defaults_;
   NameSet staticAttributeNames_;
   DependencyTable dependencies_;
@@ -277,8 +286,8 @@ class CDDWorkerDB : public platform::Object,
 
   std::int32_t generation_ = 1;
   std::int32_t cleanGeneration_ = 0;
-  std::int32_t dynAvailTime_ = 10;
-  std::int32_t staticAvailTime_ = -1;
+  std::int32_t dynAvailTime_ = 10;     // seconds
+  std::int32_t staticAvailTime_ = -1;  // seconds; none
   std::int32_t lifeCounter_ = 0;
   ZAFHartTypes::StorageMode storageMode_ = ZAFHartTypes::StorageMode::NotPaired;
   bool trackDependencies_ = false;

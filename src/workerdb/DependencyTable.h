@@ -1,21 +1,20 @@
 #pragma once
 
 #include <cstdint>
-#include <functional>
 #include <unordered_map>
+#include <unordered_set>
 
 #include "types/TextKey.h"
 
 namespace ZAFHartLib {
 
-// Which variables the attributes of an object were computed from, both ways round. An edge leads
-// from an object to a variable and is of one or both sorts:
+// Which variables the attributes of an object were computed from, both ways round. An object stands
+// to a variable in one or both of these relations:
 // - dependency: the object is stale while the variable is not available;
 // - dependent: the object is stale once the variable is written.
 class DependencyTable {
  public:
   using TextKey = ZAFHartTypes::TextKey;
-  using Visit = std::function<void(TextKey object)>;
 
   bool IsEmpty() const { return nodes_.empty(); }
   // `missing`: the variable is stored and not available at present.
@@ -25,31 +24,47 @@ class DependencyTable {
   // Forgets what the object was computed from, before it is computed anew.
   void Clear(TextKey object);
 
-  // The variable lost or regained its availability. Constant time per object that depends on it.
+  // The variable lost or regained its availability, or was stored without it. Takes a constant time
+  // per object that depends on it.
   void VariableMissing(TextKey variable, bool missing);
-  // One of the object's dependencies is missing now.
+  // One of the object's dependencies is missing now. Constant time.
   bool HasMissing(TextKey object) const;
   // Drops the object's dependencies; it stays a dependent.
   void DropDependencies(TextKey object);
 
-  void ForEachDependent(TextKey variable, const Visit& visit) const;
-  // The objects that depend on the variable's availability.
-  void ForEachReader(TextKey variable, const Visit& visit) const;
+  // Both call visit(object) in no particular order; it must not change the table.
+  template <typename Visit>
+  void ForEachDependent(TextKey variable, Visit visit) const {
+    ForEach(variable, kDependent, visit);
+  }
+  template <typename Visit>
+  void ForEachWithDependency(TextKey variable, Visit visit) const {
+    ForEach(variable, kDependency, visit);
+  }
 
  private:
-  enum Sort : std::uint8_t { kDependency = 1, kDependent = 2 };
-  using Edges = std::unordered_map<TextKey, std::uint8_t, ZAFHartTypes::TextKeyHash>;
+  enum Relation : std::uint8_t { kDependency = 1, kDependent = 2 };
+  using Hash = ZAFHartTypes::TextKeyHash;
   struct Node {
-    Edges variables;           // this object was computed from them
-    Edges objects;             // they were computed from this variable
+    std::unordered_set<TextKey, Hash> variables;              // this object was computed from them
+    std::unordered_map<TextKey, std::uint8_t, Hash> objects;  // computed from this variable
     std::int32_t missing = 0;  // dependencies of this object that are not available
   };
 
-  void Connect(TextKey object, TextKey variable, Sort sort);
-  void ForEach(TextKey variable, Sort sort, const Visit& visit) const;
+  // False when they stood in that relation before.
+  bool Connect(TextKey object, TextKey variable, Relation relation);
   const Node* Find(TextKey key) const;
 
-  std::unordered_map<TextKey, Node, ZAFHartTypes::TextKeyHash> nodes_;
+  template <typename Visit>
+  void ForEach(TextKey variable, Relation relation, Visit& visit) const {
+    const Node* node = Find(variable);
+    if (!node) return;
+    for (const auto& [object, relations] : node->objects) {
+      if ((relations & relation) != 0) visit(object);
+    }
+  }
+
+  std::unordered_map<TextKey, Node, Hash> nodes_;
 };
 
 }  // namespace ZAFHartLib

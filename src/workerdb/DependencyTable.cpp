@@ -1,0 +1,63 @@
+#include "workerdb/DependencyTable.h"
+
+namespace ZAFHartLib {
+
+bool DependencyTable::Connect(TextKey object, TextKey variable, Relation relation) {
+  std::uint8_t& relations = nodes_[variable].objects[object];
+  if ((relations & relation) != 0) return false;
+  relations = static_cast<std::uint8_t>(relations | relation);
+  nodes_[object].variables.insert(variable);
+  return true;
+}
+
+const DependencyTable::Node* DependencyTable::Find(TextKey key) const {
+  const auto found = nodes_.find(key);
+  return found == nodes_.end() ? nullptr : &found->second;
+}
+
+void DependencyTable::AddDependency(TextKey object, TextKey variable, bool missing) {
+  if (Connect(object, variable, kDependency) && missing) ++nodes_[object].missing;
+}
+
+void DependencyTable::AddDependent(TextKey object, TextKey variable) {
+  Connect(object, variable, kDependent);
+}
+
+bool DependencyTable::IsDependent(TextKey object, TextKey variable) const {
+  const Node* node = Find(variable);
+  return node && node->objects.contains(object);
+}
+
+void DependencyTable::Clear(TextKey object) {
+  const auto found = nodes_.find(object);
+  if (found == nodes_.end()) return;
+  for (const TextKey variable : found->second.variables) nodes_[variable].objects.erase(object);
+  found->second.variables.clear();
+  found->second.missing = 0;
+}
+
+void DependencyTable::VariableMissing(TextKey variable, bool missing) {
+  ForEachWithDependency(variable,
+                        [&](TextKey object) { nodes_[object].missing += missing ? 1 : -1; });
+}
+
+bool DependencyTable::HasMissing(TextKey object) const {
+  const Node* node = Find(object);
+  return node && node->missing > 0;
+}
+
+void DependencyTable::DropDependencies(TextKey object) {
+  const auto found = nodes_.find(object);
+  if (found == nodes_.end()) return;
+  std::erase_if(found->second.variables, [&](TextKey variable) {
+    auto& objects = nodes_[variable].objects;
+    std::uint8_t& relations = objects[object];
+    relations = static_cast<std::uint8_t>(relations & ~kDependency);
+    if (relations != 0) return false;
+    objects.erase(object);
+    return true;
+  });
+  found->second.missing = 0;
+}
+
+}  // namespace ZAFHartLib
