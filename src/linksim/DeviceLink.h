@@ -1,0 +1,27 @@
+#pragma once
+
+#include <memory>
+
+#include "linksim/EmulatedDevice.h"
+#include "linksim/SimulatedLink.h"
+
+namespace HartLinkSim {
+
+// A link to an emulated device. Registered as "HartLinkSim.DeviceLink".
+class DeviceLink : public SimulatedLink {
+ public:
+  // To the device of the calling thread's platform.
+  DeviceLink() : DeviceLink(EmulatedDevice::OfThread()) {}
+  explicit DeviceLink(std::shared_ptr<EmulatedDevice> device) : device_(std::move(device)) {}
+
+  const std::shared_ptr<EmulatedDevice>& Device() const { return device_; }
+
+ protected:
+  std::optional<Reply> Answer(const ZAFHartTypes::Exchange& exchange) override;
+  std::uint8_t DeviceStatus(const ZAFHartTypes::Exchange& exchange) const override;
+
+ private:
+  std::shared_ptr<EmulatedDevice> device_;
+};
+
+}  // namespace HartLinkSim
