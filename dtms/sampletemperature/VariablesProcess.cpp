@@ -1,0 +1,76 @@
+#include "common/HartTables.h"
+#include "sampletemperature/Description.h"
+#include "sampletemperature/DeviceVariable.h"
+#include "sampletemperature/Sensor.h"
+
+namespace sampletemperature {
+namespace {
+
+VariableBuilder DescribeUnitOf(DeviceDescription& dd, std::size_t position, Enums units,
+                               hart::Unit initial) {
+  const DeviceVariable& variable = kDeviceVariables[position];
+  VariableBuilder unit = dd.Variable(std::string(variable.name) + "_unit");
+  unit.Label(LabelOf(variable, " unit", " Einheit"))
+      .Help("Engineering unit of the value|de|Physikalische Einheit des Wertes")
+      .Enumerated(1, std::move(units))
+      .Default(static_cast<std::int32_t>(initial));
+  return unit;
+}
+
+void DescribeUnits(DeviceDescription& dd) {
+  using enum hart::Unit;
+  DescribeUnitOf(dd, 0, TemperatureUnits(), DegreesCelsius)
+      .OnCompute([](Context& context, Variable& variable) {
+        variable.EditTypeInfo().SetEnumItems(PrimaryUnits(SensorOf(context)));
+      });
+  DescribeUnitOf(dd, 1, TemperatureUnits(), DegreesCelsius);
+  DescribeUnitOf(dd, 2, hart::Units({Millivolts, Ohms, Kiloohms}), Millivolts).ReadOnly();
+  DescribeUnitOf(dd, 3, hart::Units({Volts}), Volts).ReadOnly();
+}
+
+void DescribeValues(DeviceDescription& dd) {
+  for (const DeviceVariable& variable : kDeviceVariables) {
+    dd.Variable(variable.name)
+        .Label(LabelOf(variable))
+        .Help("Measured value|de|Messwert")
+        .Float()
+        .Format("8.3f")
+        .ReadOnly()
+        .Dynamic();
+  }
+  dd.Variable("loop_current")
+      .Label("Loop current|de|Schleifenstrom")
+      .Help(
+          "Current that the device drives through its loop|de|"
+          "Strom, den das Gerät durch seine Schleife treibt")
+      .Float()
+      .Format("7.3f")
+      .Unit("mA")
+      .ReadOnly()
+      .Dynamic();
+  dd.Variable("percent_of_range")
+      .Label("Percent of range|de|Prozent des Messbereichs")
+      .Help("Primary variable as part of its range|de|Messwert als Teil seines Messbereichs")
+      .Float()
+      .Format("7.2f")
+      .Unit("%")
+      .ReadOnly()
+      .Dynamic();
+  dd.Variable("data_time_stamp")
+      .Label("Time stamp|de|Zeitstempel")
+      .Help(
+          "Time of measurement in steps of 1/32 ms since midnight|de|"
+          "Zeitpunkt der Messung in Schritten von 1/32 ms seit Mitternacht")
+      .Unsigned(4)
+      .ReadOnly()
+      .Dynamic();
+}
+
+}  // namespace
+
+void DescribeProcessVariables(DeviceDescription& dd) {
+  DescribeValues(dd);
+  DescribeUnits(dd);
+}
+
+}  // namespace sampletemperature

@@ -1,0 +1,11 @@
+#pragma once
+
+#include <filesystem>
+
+namespace platform {
+
+// Full path of the folder of the program or shared library that holds the code or datum at
+// `address`; empty when that cannot be told. `address` is one inside the asking module.
+std::filesystem::path ModuleFolder(const void* address);
+
+}  // namespace platform
