@@ -1,0 +1,199 @@
+#include "dtmkit/dtmkit.h"
+
+#include <gtest/gtest.h>
+
+#include "support/StubComponents.h"
+#include "workerdb/CDDWorkerDB.h"
+
+namespace {
+
+using namespace ZAFHartTypes;          // NOLINT(google-build-using-namespace)
+using namespace ZAFHartTypes::dtmkit;  // NOLINT(google-build-using-namespace)
+
+// Computes attributes at every look-up.
+class ComputingKernel : public test_support::StubKernel {
+ public:
+  std::shared_ptr<Variable> GetVariable(const Definition& definition) override {
+    auto variable = StubKernel::GetVariable(definition);
+    variable->BeginAttributeComputation();
+    return dataModel->ComputeVarAttrs(*this, *components.lock(), definition.Name(), variable);
+  }
+  std::shared_ptr<Command> GetCommand(const Definition& definition) override {
+    return dataModel->ComputeCmdAttrs(*this, *components.lock(), definition.Name(),
+                                      StubKernel::GetCommand(definition));
+  }
+};
+
+// A DTM instance on a description.
+class Instance {
+ public:
+  explicit Instance(const Catalogue& catalogue)
+      : model(std::make_shared<DataModelBase>(catalogue)) {
+    components->kernel = kernel;
+    kernel->SetComponentModel(components);
+    kernel->SetDataModel(model);
+    components->Use(std::make_shared<ZAFHartLib::CDDWorkerDB>());
+    model->InitVariables(*components, commands, relations);
+    model->InitCommands(*components, commands, relations);
+    model->InitMenus(*components, commands, relations);
+    model->InitEditDisplays(*components, commands, relations);
+    model->InitMethods(*components, commands, relations);
+    model->InitRelations(*components, commands, relations);
+    model->InitArrays(*components, commands, relations);
+    model->InitCollections(*components, commands, relations);
+  }
+  std::shared_ptr<Variable> Get(const char* name) {
+    return kernel->GetVariable(VariableNamed(name));
+  }
+  std::shared_ptr<DDObject> Stored(const Definition& definition) {
+    return components->database->ReadObject(definition);
+  }
+  void Write(const char* name, const Variant& value) {
+    components->database->WriteValue(VariableNamed(name), value);
+  }
+
+  std::shared_ptr<test_support::StubComponents> components = test_support::StubComponents::Create();
+  std::shared_ptr<ComputingKernel> kernel = std::make_shared<ComputingKernel>();
+  std::shared_ptr<DataModelBase> model;
+  DefinitionList commands;
+  DefinitionList relations;
+};
+
+void DescribeSlots(DeviceDescription& dd) {
+  auto slots = dd.Array("slots");
+  for (const std::string n : {"1", "2"}) {
+    slots.Collection(std::stoi(n) * 10, "slot_" + n, "Slot " + n);
+    dd.Collection("slot_" + n).Variable("VALUE", "value_" + n).Variable("STATUS", "status_" + n);
+    dd.Variable("value_" + n).Float();
+    dd.Variable("status_" + n).Unsigned(1);
+  }
+  dd.Variable("slot").Index(1, "slots").Default(10).Local();
+  dd.Command("read_slot", 9, Operation::Read)
+      .Request({Index("slot")})
+      .Reply({Index("slot"), Element("slots", "slot", "value"),
+              Element("slots", "slot", "STATUS", 0xF0)});
+}
+
+TEST(ElementItems, FollowTheIndexOfTheirInstance) {
+  DeviceDescription dd;
+  DescribeSlots(dd);
+  Instance instance(dd);
+  Instance other(dd);
+  const auto replyOf = [](Instance& asked) {
+    return asked.kernel->GetCommand(Definition::Define("read_slot", ObjectKind::Command))
+        ->Transactions()
+        .Item(0)
+        ->Reply();
+  };
+  const std::string first = "(response_code, device_status, slot INDEX INFO, value_1, status_1)";
+  EXPECT_EQ(replyOf(instance).Describe(0), first);
+  instance.Write("slot", 20);
+  EXPECT_EQ(replyOf(instance).Describe(0),
+            "(response_code, device_status, slot INDEX INFO, value_2, status_2)");
+  EXPECT_EQ(replyOf(instance).Item(5).Mask(), 0xF0U);
+  EXPECT_EQ(replyOf(other).Describe(0), first);
+  instance.Write("slot", 33);
+  EXPECT_EQ(replyOf(instance).Item(4).VariableDefinition().Name(), "value_2") << "no such element";
+}
+
+TEST(DataModel, InstancesShareAllThatIsStatic) {
+  DeviceDescription dd;
+  dd.Variable("mode").Label("Mode|de|Betriebsart").Enumerated(1, MakeEnums({{0, "Off"}}));
+  dd.Command("read", 1, Operation::Read)
+      .Reply({"mode"})
+      .Codes(MakeCodes({{0, ResponseCodeType::Success, "Success"}}));
+  Instance one(dd);
+  Instance other(dd);
+  EXPECT_EQ(&one.Get("mode")->Label(), &other.Get("mode")->Label());
+  EXPECT_EQ(&one.Get("mode")->TypeInfo(), &other.Get("mode")->TypeInfo()) << "one block";
+  const auto codes = [](Instance& instance) {
+    return &instance.Stored(Definition::Define("read", ObjectKind::Command))
+                ->MakeCommand()
+                ->ResponseCodes();
+  };
+  EXPECT_EQ(codes(one), codes(other));
+}
+
+TEST(DataModel, ConditionsFollowValues) {
+  DeviceDescription dd;
+  dd.Variable("sensor").Unsigned(1).Default(1);
+  dd.Variable("wires")
+      .Unsigned(1)
+      .ValidWhen([](Context& context) { return context.Long("sensor") == 1; })
+      .WritableWhen([](Context& context) { return context.Number("sensor") < 2; })
+      .OnCompute([](Context& context, Variable& variable) {
+        if (!context.IsValid("sensor")) return;
+        variable.SetLabel("Wires of sensor " + context.Text("sensor"));
+      });
+  Instance instance(dd);
+  EXPECT_TRUE(instance.Get("wires")->Validity());
+  EXPECT_TRUE(instance.Get("wires")->CheckHandling(AccessMode::Write));
+  instance.Write("sensor", 2);
+  const auto wires = instance.Get("wires");
+  EXPECT_FALSE(wires->Validity());
+  EXPECT_FALSE(wires->CheckHandling(AccessMode::Write));
+  EXPECT_TRUE(wires->CheckHandling(AccessMode::Read));
+  EXPECT_EQ(wires->Label(), "Wires of sensor 2");
+  EXPECT_FALSE(
+      instance.model->ComputeVarValidity(*instance.kernel, *instance.components, "wires", wires));
+}
+
+TEST(DataModel, FailureOfAConditionReachesTheKernel) {
+  DeviceDescription dd;
+  dd.Variable("broken").Float().ValidWhen(
+      [](Context& context) { return context.Long("gone") > 0; });
+  Instance instance(dd);
+  EXPECT_THROW(instance.Get("broken"), Failure);
+}
+
+TEST(DataModel, ListsCommandsAndRelations) {
+  DeviceDescription dd;
+  dd.Command("read", 1, Operation::Read);
+  dd.WriteAsOne("range").Members({"low", "high"});
+  dd.UnitRelation("units").Unit("unit").Dependents({"low", "high"});
+  dd.RefreshRelation("refresh").Triggers({"unit"}).Refreshes({"low"});
+  Instance instance(dd);
+  EXPECT_EQ(instance.commands.Describe(0), "(read)");
+  EXPECT_EQ(instance.relations.Count(), 3U);
+  const auto units = instance.Stored(instance.relations.Item(2))->MakeUnit();
+  ASSERT_NE(units, nullptr);
+  EXPECT_EQ(units->UnitVariable().Name(), "unit");
+  EXPECT_TRUE(units->DependentItems().Contains(VariableNamed("high")));
+}
+
+TEST(MethodBuilder, RunsItsBodyOnly) {
+  DeviceDescription dd;
+  std::vector<std::string> runs;
+  dd.Variable("level").Float().Default(2.5F);
+  dd.Method("test")
+      .Body([&runs](Context& context, const std::shared_ptr<DDObject>& object, bool inAbort) {
+        runs.push_back(context.Text("level") + (object ? " with object" : "") +
+                       (inAbort ? " in abort" : ""));
+      })
+      .ValidWhen([](Context& context) { return context.Number("level") > 3; });
+  Instance instance(dd);
+  instance.model->ExecuteMethodBody(*instance.kernel, *instance.components, "TEST", {}, true);
+  instance.model->ExecuteMethodBody(*instance.kernel, *instance.components, "level", {}, false);
+  EXPECT_EQ(runs, std::vector<std::string>{"2.5 in abort"});
+  const auto method = instance.Stored(MethodNamed("test"))->MakeMethod();
+  EXPECT_FALSE(instance.model->ComputeMethodValidity(*instance.kernel, *instance.components, "test",
+                                                     method));
+}
+
+struct Throwing : platform::Object {
+  Throwing() { throw std::runtime_error("no memory for the table"); }
+};
+struct ThrowingNumber : platform::Object {
+  ThrowingNumber() { throw 42; }
+};
+
+TEST(Plugin, LetsNothingOut) {
+  std::shared_ptr<platform::Object> object;
+  EXPECT_STREQ(CreateObject<Throwing>(&object), "no memory for the table");
+  EXPECT_STREQ(CreateObject<ThrowingNumber>(&object), "unknown exception");
+  EXPECT_EQ(object, nullptr);
+  EXPECT_EQ(CreateObject<platform::Object>(&object), nullptr);
+  EXPECT_NE(object, nullptr);
+}
+
+}  // namespace
