@@ -8,6 +8,7 @@
 #include "gui/CLockObject.h"
 #include "gui/ControlList.h"
 #include "gui/DynamicRefresh.h"
+#include "gui/ErrorTexts.h"
 #include "gui/GuiSettings.h"
 #include "gui/ThreadGuis.h"
 #include "interfaces/ComponentBase.h"
@@ -49,9 +50,9 @@ class CDDDTMGUI : public platform::Object,
   // The control that has the user's attention.
   const Control& ActiveControl() const { return activeControl_; }
   void SetActiveControl(Control control) { activeControl_ = std::move(control); }
-  // The control that shows user messages; gets component model and language like registered ones.
+  // The control that shows user messages; gets the component model.
   const Control& MessageControl() const { return messageControl_; }
-  void SetMessageControl(Control control) { messageControl_ = std::move(control); }
+  void SetMessageControl(Control control);
   const std::shared_ptr<CExternalTraceConnection>& ExternalTracer() const { return tracer_; }
   void SetExternalTracer(std::shared_ptr<CExternalTraceConnection> tracer);
   // The DD call stack; nothing is replaced by a new one.
@@ -117,30 +118,32 @@ class CDDDTMGUI : public platform::Object,
   void LockControls(std::string_view operation, bool locked);
   void LockOthers(std::int32_t lockId);
 
-  // Nothing after tear-down.
+  // Nothing before Initialize and after tear-down.
   std::shared_ptr<ZAFHartTypes::IDDWorkerDB> Database() const;
-  std::string Translated(const std::string& text) const;
-  std::string TranslatedResource(std::int32_t id) const;
   UserMessage Translated(const UserMessage& message) const;
   std::int32_t AskAllForMessage(const UserMessage& message);
 
   // --- errors ---
-  template <typename Ask>
-  bool IsHandled(Ask&& ask);
-  bool IsTraced() const;
-  std::int16_t DescribeLevel() const;
+  bool IsTraced() const { return tracer_ && tracer_->CheckConnection(); }
+  // The common way of the error members: asks the error handler with `ask`; unless it handled the
+  // error and nobody traces, calls `report` with the stack text and whether it was handled. The
+  // answer is whether it was handled.
+  template <typename Ask, typename Report>
+  bool Route(Ask&& ask, Report&& report);
   std::string StackText() const;
-  std::string ObjectName(const Object& object) const;
+  // Level for the Describe of what an error is about.
+  std::int16_t InfoLevel() const;
+  ErrorTexts Texts() const { return {language_, settings_.showDDInformation}; }
   void RecordError(ZAFHartTypes::Variable& variable, ZAFHartTypes::ItemIndex index);
-  void ClearError(ZAFHartTypes::Variable& variable);
-  void ReportObjectError(const Object& object, ZAFHartTypes::ItemIndex index, bool handled);
-  struct ResponseReport;
-  ResponseReport ResponseCodeReport(std::uint8_t code, const ZAFHartTypes::CommandRef& command,
-                                    const std::string& stackText) const;
-  ResponseReport CommunicationReport(std::uint8_t code, const ZAFHartTypes::CommandRef& command,
-                                     const std::string& stackText) const;
-  // Shows the message, waits for the user and hides it again; answers the user's result.
-  std::int32_t ShowError(UserMessage message);
+  void SettleVariable(ZAFHartTypes::Variable& variable, ZAFHartTypes::ItemIndex index);
+  void ReportToUser(ZAFHartTypes::ItemIndex index, const std::string& text,
+                    const std::string& stackText);
+  std::int32_t ReportResponse(const ErrorReport& report, const ZAFHartTypes::CommandRef& command,
+                              const std::string& stackText, bool handled);
+  void SetLastResult(std::int32_t result);
+  // Shows the message and waits for the user; answers his result.
+  std::int32_t ShowError(std::string title, std::string prompt, std::string help,
+                         ZAFHartTypes::MessageIcon icon = ZAFHartTypes::MessageIcon::Critical);
 
   ZAFHartTypes::ModelReference model_;
   std::shared_ptr<ZAFHartTypes::IDDErrorHandler> errorHandler_;
@@ -154,7 +157,7 @@ class CDDDTMGUI : public platform::Object,
   // For each UI lock the locks of the other GUI managers that go with it.
   std::map<std::int32_t, std::vector<std::shared_ptr<CLockObject>>> locks_;
   GuiSettings settings_;
-  std::string language_;
+  std::string language_ = "en";
   bool inplaceAcknowledge_ = false;
   bool lockUpdate_ = false;
 };

@@ -5,8 +5,12 @@
 
 #include "ddobjects/Command.h"
 #include "ddobjects/DefinitionList.h"
-#include "ddobjects/Variable.h"
 #include "gui/Asynchronizer.h"
+
+namespace ZAFHartTypes {
+class IDDComponents;
+class IDDWorkerDB;
+}  // namespace ZAFHartTypes
 
 namespace ZAFHartLib {
 
@@ -35,12 +39,14 @@ class DynamicRefresh {
   void CollectRefreshData();
   // Drops what needs no read and answers the variable last read longest ago; empty when there is
   // none.
-  ZAFHartTypes::Definition ChooseStalest();
-  void Read(const ZAFHartTypes::Definition& definition);
+  ZAFHartTypes::Definition ChooseStalest(ZAFHartTypes::IDDWorkerDB& database);
+  void Read(ZAFHartTypes::IDDComponents& components, const ZAFHartTypes::Definition& definition);
   // Starts the asynchronous read; nothing when none was started.
-  std::shared_ptr<ZAFHartTypes::CommandRef> StartRead(const ZAFHartTypes::Definition& definition);
+  static std::shared_ptr<ZAFHartTypes::CommandRef> StartRead(
+      ZAFHartTypes::IDDComponents& components, const ZAFHartTypes::Definition& definition);
+  void ReadAtOnce(ZAFHartTypes::IDDComponents& components,
+                  const ZAFHartTypes::Definition& definition);
   void ReadNext();
-  void Drop(const ZAFHartTypes::Definition& definition);
   // Runs `step`, keeping the GUI manager alive, and traces its failure under `name`.
   template <typename Step>
   void Trapped(const char* name, Step&& step);
@@ -49,8 +55,9 @@ class DynamicRefresh {
   const ControlList& controls_;
   Asynchronizer asynchronizer_;
   ZAFHartTypes::DefinitionList refreshList_;
-  std::shared_ptr<ZAFHartTypes::CommandRef> runningRead_;  // nothing while none runs
+  // The variable being read, and the exchange that reads it once that has been started.
   ZAFHartTypes::Definition runningDefinition_;
+  std::shared_ptr<ZAFHartTypes::CommandRef> runningRead_;
   // Exchanges that were finished before the call that starts the read returned.
   std::vector<std::shared_ptr<ZAFHartTypes::CommandRef>> finishedEarly_;
   platform::TickCount lastCollection_ = 0;

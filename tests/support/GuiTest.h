@@ -1,0 +1,78 @@
+#pragma once
+
+#include <gmock/gmock.h>
+
+#include "gui/CDDDTMGUI.h"
+#include "interfaces/IAsyncReader.h"
+#include "settings/Settings.h"
+#include "support/RecordingControl.h"
+#include "support/RecordingTracer.h"
+#include "support/StubComponents.h"
+#include "trace/CEmptyErrorHandler.h"
+#include "workerdb/CDDWorkerDB.h"
+
+namespace test_support {
+
+// A kernel whose background reads the test finishes.
+class AsyncKernel : public StubKernel, public IAsyncReader {
+ public:
+  std::shared_ptr<CommandRef> AsyncReadVariableEx(const Definition& definition) override {
+    calls.push_back("Async " + definition.Name());
+    if (fails) throw Failure(ErrorNumber::Unexpected, "Kernel", "cannot read");
+    started = starts ? std::make_shared<CommandRef>() : nullptr;
+    if (started && onStart) onStart(started);
+    return started;
+  }
+  std::shared_ptr<CommandRef> started;
+  std::function<void(const std::shared_ptr<CommandRef>&)> onStart;
+  bool starts = true;
+  bool fails = false;
+};
+
+// A GUI manager of an instance with a real database, on a clock that the test moves.
+class GuiTest : public testing::Test {
+ protected:
+  GuiTest() { NewModel(); }
+  ~GuiTest() override {
+    IgnoreFailures([&] { gui->SetComponentModel(nullptr); });
+  }
+
+  void NewModel() {
+    components->kernel = kernel;
+    kernel->SetComponentModel(components);
+    components->Use(database);
+    components->gui = gui;
+    gui->SetComponentModel(components);
+  }
+  std::shared_ptr<RecordingControl> Register() {
+    auto control = std::make_shared<RecordingControl>();
+    gui->RegisterCtrl(control);
+    control->TakeCalls();
+    return control;
+  }
+  void Setting(std::string_view name, const char* value) {
+    platform.Registry().SetValue(ZAFHartLib::kDtmsKey, name, value);
+    gui->SetComponentModel(components);
+  }
+  void Advance(int milliseconds) {
+    clock->Advance(platform::Milliseconds{milliseconds});
+    platform.Loop().Pump();
+  }
+  static std::shared_ptr<Variable> MakeVariable(const char* name, const char* label = "") {
+    auto variable = MakeObject<Variable>(name);
+    variable->SetLabel(label);
+    return variable;
+  }
+
+  platform::ManualClock* clock = new platform::ManualClock;
+  platform::Platform platform{std::unique_ptr<platform::Clock>(clock)};
+  platform::PlatformScope scope{platform};
+  std::shared_ptr<RecordingTracer> tracer = RecordingTracer::Install(platform);
+  std::shared_ptr<ZAFHartLib::CDDDTMGUI> gui = std::make_shared<ZAFHartLib::CDDDTMGUI>();
+  std::shared_ptr<AsyncKernel> kernel = std::make_shared<AsyncKernel>();
+  std::shared_ptr<ZAFHartLib::CDDWorkerDB> database = std::make_shared<ZAFHartLib::CDDWorkerDB>();
+  std::shared_ptr<StubComponents> components = StubComponents::Create();
+  StubComm& comm = static_cast<StubComm&>(*components->comm);
+};
+
+}  // namespace test_support
