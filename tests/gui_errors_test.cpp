@@ -1,14 +1,7 @@
 #include "support/GuiTest.h"
 
-namespace ZAFHartLib {
+namespace test_support {
 namespace {
-
-using namespace ZAFHartTypes;  // NOLINT(google-build-using-namespace)
-using test_support::GuiTest;
-using test_support::RecordingControl;
-using testing::ElementsAre;
-using testing::HasSubstr;
-using testing::IsEmpty;
 
 constexpr const char* kStack = "Call Stack Information:\r\nNo Trace Info Available!";
 
@@ -21,7 +14,6 @@ class ErrorsTest : public GuiTest {
   }
   const UserMessage& Shown() const { return control->userMessages.back(); }
   bool NothingShown() const { return control->userMessages.empty(); }
-  void HandleEverything() { gui->SetErrorHandler(std::make_shared<CEmptyErrorHandler>()); }
 
   std::shared_ptr<RecordingControl> control = std::make_shared<RecordingControl>();
 };
@@ -45,7 +37,7 @@ TEST_F(ErrorsTest, HandledErrorsAreTracedOnly) {
       throw std::runtime_error("broken handler");
     }
   };
-  HandleEverything();
+  gui->SetErrorHandler(std::make_shared<CEmptyErrorHandler>());
   gui->EvaluationError("bad");
   gui->ObjectError(MakeVariable("x"), ItemIndex::CyclicVariable);
   gui->ResponseCodeError({7, 0, 0}, std::make_shared<CommandRef>(MakeObject<Command>("c"), 0));
@@ -118,10 +110,6 @@ TEST_F(ErrorsTest, ObjectErrorIsRecordedOnItsVariable) {
   held->EditAttributes().SetFlag(VariableFlag::LibraryHeld, true);
   gui->ObjectError(held, ItemIndex::NotWritable);
   EXPECT_EQ(held->ErrorIndex(), 0);
-  control->messageAnswer = 0;
-  control->hiddenMessages.clear();
-  gui->ObjectError(held, ItemIndex::NotWritable);
-  EXPECT_THAT(control->hiddenMessages, IsEmpty());
 }
 
 TEST_F(ErrorsTest, CyclicEvaluationIsTracedAndRaised) {
@@ -173,9 +161,12 @@ TEST_F(ResponseTest, DefinedCodesTellTheirTexts) {
                           "Break 0 db"));
   Report(8);
   EXPECT_EQ(Shown().icon, MessageIcon::Information);
-  Report(9);
-  EXPECT_TRUE(NothingShown());
-  EXPECT_EQ(comm.lastResult, 0);
+  for (const auto shownNowhere : {std::uint8_t{9}, std::uint8_t{0}}) {
+    comm.lastResult = 99;
+    Report(shownNowhere);
+    EXPECT_TRUE(NothingShown());
+    EXPECT_EQ(comm.lastResult, 0);
+  }
 }
 
 TEST_F(ResponseTest, OtherCodesTellWhatTheStandardSays) {
@@ -207,12 +198,9 @@ TEST_F(ResponseTest, OtherCodesTellWhatTheStandardSays) {
   }
   reference->SetTransactionNumber(7);  // unknown: the command's codes stand
   Report(5);
-  EXPECT_THAT(Shown().prompt, HasSubstr("command's 5"));
-  Report(0);
-  EXPECT_TRUE(NothingShown());
-  EXPECT_EQ(comm.lastResult, 0);
+  EXPECT_THAT(Shown().prompt, testing::EndsWith("command's 5"));
   EXPECT_THROW(gui->ResponseCodeError({1, 0, 0}, nullptr), Failure);
 }
 
 }  // namespace
-}  // namespace ZAFHartLib
+}  // namespace test_support

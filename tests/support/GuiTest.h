@@ -13,6 +13,10 @@
 
 namespace test_support {
 
+using namespace ZAFHartLib;  // NOLINT(google-build-using-namespace)
+using testing::ElementsAre;
+using testing::IsEmpty;
+
 // A kernel whose background reads the test finishes.
 class AsyncKernel : public StubKernel, public IAsyncReader {
  public:
@@ -51,7 +55,7 @@ class GuiTest : public testing::Test {
     return control;
   }
   void Setting(std::string_view name, const char* value) {
-    platform.Registry().SetValue(ZAFHartLib::kDtmsKey, name, value);
+    platform.Registry().SetValue(kDtmsKey, name, value);
     gui->SetComponentModel(components);
   }
   void Advance(int milliseconds) {
@@ -68,9 +72,9 @@ class GuiTest : public testing::Test {
   platform::Platform platform{std::unique_ptr<platform::Clock>(clock)};
   platform::PlatformScope scope{platform};
   std::shared_ptr<RecordingTracer> tracer = RecordingTracer::Install(platform);
-  std::shared_ptr<ZAFHartLib::CDDDTMGUI> gui = std::make_shared<ZAFHartLib::CDDDTMGUI>();
+  std::shared_ptr<CDDDTMGUI> gui = std::make_shared<CDDDTMGUI>();
   std::shared_ptr<AsyncKernel> kernel = std::make_shared<AsyncKernel>();
-  std::shared_ptr<ZAFHartLib::CDDWorkerDB> database = std::make_shared<ZAFHartLib::CDDWorkerDB>();
+  std::shared_ptr<CDDWorkerDB> database = std::make_shared<CDDWorkerDB>();
   std::shared_ptr<StubComponents> components = StubComponents::Create();
   StubComm& comm = static_cast<StubComm&>(*components->comm);
 };

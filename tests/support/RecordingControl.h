@@ -18,7 +18,6 @@ class RecordingControl : public StubGui,
   std::vector<std::string> calls;
   std::vector<UserMessage> userMessages;
   std::vector<std::int32_t> hiddenMessages;
-  std::vector<SignalObject> signalObjects;
   bool lockControls = false;
   bool lockUpdate = false;
 
@@ -48,7 +47,6 @@ class RecordingControl : public StubGui,
   }
   void LifeSignal(LifeSignalCode code, const SignalObject& object) override {
     StubGui::LifeSignal(code, object);
-    signalObjects.push_back(object);
     Called("LifeSignal");
   }
   void StopCurrentEditing() override {

@@ -62,14 +62,6 @@ class RecordingTracer : public platform::Object, public ZAFHartTypes::IDDExterna
   }
 
   std::vector<std::string> TakeCalls() { return std::exchange(calls, {}); }
-  // Texts of the calls of one kind, in order.
-  std::vector<std::string> Texts(const std::string& kind) const {
-    std::vector<std::string> texts;
-    for (const std::string& call : calls) {
-      if (call.starts_with(kind + " 0 ")) texts.push_back(call.substr(kind.size() + 3));
-    }
-    return texts;
-  }
 
   std::shared_ptr<ZAFHartTypes::IDDExternalTracerCallBack> callBack;
   std::vector<std::string> calls;  // "<call> <level, 0 for none> <text>"
