@@ -125,11 +125,10 @@ class CDDDTMGUI : public platform::Object,
 
   // --- errors ---
   bool IsTraced() const { return tracer_ && tracer_->CheckConnection(); }
-  // The common way of the error members: asks the error handler with `ask`; unless it handled the
-  // error and nobody traces, calls `report` with the stack text and whether it was handled. The
-  // answer is whether it was handled.
-  template <typename Ask, typename Report>
-  bool Route(Ask&& ask, Report&& report);
+  // Asks the error handler with `ask`; one that fails has not handled the error. Texts are built
+  // only when the error is shown or traced.
+  template <typename Ask>
+  bool IsHandled(Ask&& ask);
   std::string StackText() const;
   // Level for the Describe of what an error is about.
   std::int16_t InfoLevel() const;
@@ -139,7 +138,7 @@ class CDDDTMGUI : public platform::Object,
   void ReportToUser(ZAFHartTypes::ItemIndex index, const std::string& text,
                     const std::string& stackText);
   std::int32_t ReportResponse(const ErrorReport& report, const ZAFHartTypes::CommandRef& command,
-                              const std::string& stackText, bool handled);
+                              bool handled);
   void SetLastResult(std::int32_t result);
   // Shows the message and waits for the user; answers his result.
   std::int32_t ShowError(std::string title, std::string prompt, std::string help,

@@ -51,16 +51,14 @@ std::int16_t CDDDTMGUI::InfoLevel() const {
   return static_cast<std::int16_t>(tracer_ ? tracer_->GetTraceInfoLevel() : 1);
 }
 
-template <typename Ask, typename Report>
-bool CDDDTMGUI::Route(Ask&& ask, Report&& report) {
+template <typename Ask>
+bool CDDDTMGUI::IsHandled(Ask&& ask) {
   std::int32_t answer = 0;
   if (const auto handler = errorHandler_) {
     IgnoreFailures(
         [&] { answer = platform::CallForeign("IDDErrorHandler", [&] { return ask(*handler); }); });
   }
-  const bool handled = (answer & 1) != 0;
-  if (!handled || IsTraced()) report(StackText(), handled);
-  return handled;
+  return (answer & 1) != 0;
 }
 
 std::int32_t CDDDTMGUI::ShowError(std::string title, std::string prompt, std::string help,
@@ -79,34 +77,34 @@ void CDDDTMGUI::SetLastResult(std::int32_t result) {
 }
 
 void CDDDTMGUI::EvaluationError(const std::string& message) {
-  Route([&](IDDErrorHandler& handler) { return handler.EvaluationError(message); },
-        [&](const std::string& stackText, bool handled) {
-          if (IsTraced()) {
-            tracer_->TraceEvaluationError(Database(), std::string(kEvaluationErrorTitle) + ": " +
-                                                          message + kLineBreak + stackText);
-          }
-          if (!handled) HideUserMessage(ShowError(kEvaluationErrorTitle, message, stackText));
-        });
+  const bool handled =
+      IsHandled([&](IDDErrorHandler& handler) { return handler.EvaluationError(message); });
+  if (handled && !IsTraced()) return;
+  const std::string stackText = StackText();
+  if (IsTraced()) {
+    tracer_->TraceEvaluationError(
+        Database(), std::string(kEvaluationErrorTitle) + ": " + message + kLineBreak + stackText);
+  }
+  if (!handled) HideUserMessage(ShowError(kEvaluationErrorTitle, message, stackText));
 }
 
 void CDDDTMGUI::ObjectError(const Object& object, ItemIndex index) {
   if (!object) RaiseMissing("ObjectError", "object");
-  const auto variable = object->MakeVariable();
-  std::string text;
-  std::string stack;
   const bool handled =
-      Route([&](IDDErrorHandler& handler) { return handler.ObjectError(object, index); },
-            [&](const std::string& stackText, bool) {
-              text = Texts().ObjectError(object, index);
-              stack = stackText;
-            });
+      IsHandled([&](IDDErrorHandler& handler) { return handler.ObjectError(object, index); });
+  const bool isTold = !handled && !IsNotShown(index);
+  const bool isRead = isTold || IsTraced();
+  const std::string stackText = isRead ? StackText() : std::string();
+  const std::string text = isRead ? Texts().ObjectError(object, index) : std::string();
+  const auto variable = object->MakeVariable();
   if (variable) RecordError(*variable, index);
   if (IsTraced()) {
     tracer_->TraceObjectError(Database(), "Object Error: " + text + kLineBreak + kLineBreak +
-                                              object->Describe(InfoLevel()) + kLineBreak + stack);
+                                              object->Describe(InfoLevel()) + kLineBreak +
+                                              stackText);
   }
   if (variable) SettleVariable(*variable, index);
-  if (!handled) ReportToUser(index, text, stack);
+  if (isTold) ReportToUser(index, text, stackText);
 }
 
 // What is recorded of an error before it is traced. The first error of a variable stands.
@@ -140,7 +138,6 @@ void CDDDTMGUI::SettleVariable(Variable& variable, ItemIndex index) {
 void CDDDTMGUI::ReportToUser(ItemIndex index, const std::string& text,
                              const std::string& stackText) {
   if (IsCyclic(index)) throw Failure(ErrorNumber::Unexpected, "CDDDTMGUI.ObjectError", text);
-  if (IsNotShown(index)) return;
   const std::int32_t result = ShowError(Texts().Resource(idDDErrorCodes), text, stackText);
   if (index == ItemIndex::NoCommunication) SetLastResult(result);
   if (result > 0) HideUserMessage(result);
@@ -150,23 +147,22 @@ void CDDDTMGUI::ResponseCodeError(const CommandStatus& status,
                                   const std::shared_ptr<CommandRef>& command) {
   const bool failed = status.responseCode != 0 || status.communication != 0;
   if (failed && !(command && command->Command())) RaiseMissing("ResponseCodeError", "command");
-  Route([&](IDDErrorHandler& handler) { return handler.ResponseCodeError(status, command); },
-        [&](const std::string& stackText, bool handled) {
-          std::int32_t result = 0;
-          if (status.responseCode != 0) {
-            result = ReportResponse(Texts().ResponseCode(status.responseCode, *command), *command,
-                                    stackText, handled);
-          } else if (status.communication != 0) {
-            result = ReportResponse(Texts().CommunicationError(status.communication, *command),
-                                    *command, stackText, handled);
-          }
-          if (!handled) SetLastResult(result);
-        });
+  const bool handled = IsHandled(
+      [&](IDDErrorHandler& handler) { return handler.ResponseCodeError(status, command); });
+  std::int32_t result = 0;
+  if (failed && (!handled || IsTraced())) {
+    result = ReportResponse(status.responseCode != 0
+                                ? Texts().ResponseCode(status.responseCode, *command)
+                                : Texts().CommunicationError(status.communication, *command),
+                            *command, handled);
+  }
+  if (!handled) SetLastResult(result);
 }
 
 // Answers the user's result, 0 when nothing was shown.
 std::int32_t CDDDTMGUI::ReportResponse(const ErrorReport& report, const CommandRef& command,
-                                       const std::string& stackText, bool handled) {
+                                       bool handled) {
+  const std::string stackText = StackText();
   if (IsTraced()) {
     tracer_->TraceResponseCodeError(Database(), "Response Code Error: " + report.text + kLineBreak +
                                                     command.Describe(InfoLevel()) + kLineBreak +
