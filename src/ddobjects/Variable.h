@@ -163,6 +163,10 @@ class Variable : public DDObject {
   // --- for the worker database and the kernel ---
   // Goes back to the block that FreezeAttributes kept, before a data model computes it anew.
   void BeginAttributeComputation();
+  // Takes a block that was made for many variables, and shares it until it is edited.
+  void SetAttributeBlock(std::shared_ptr<const VariableBlock> block) {
+    Set(block_, std::move(block), kAttributes);
+  }
   // Keeps the present block as what every computation starts from.
   void FreezeAttributes() { frozenBlock_ = block_; }
   std::uint32_t Changes() const { return changes_; }
