@@ -6,9 +6,11 @@
 #include <vector>
 
 #include "comm/AddressVariables.h"
+#include "comm/ErrorDisplay.h"
 #include "gui/frmAsynchronizer.h"
 #include "interfaces/ComponentBase.h"
 #include "interfaces/IDDCommWrapper.h"
+#include "linksim/Frame.h"
 #include "platform/Object.h"
 
 namespace ZAFHartLib {
@@ -86,39 +88,49 @@ class CDDTestCommWrapper : public platform::Object,
     std::shared_ptr<Exchange> exchange;
     std::shared_ptr<ILink> link;
   };
+  class Waiting;
 
+  // --- one command ---
   bool CompletesLocally() const { return emulate_ || !useHartEmulator_; }
-  bool CompleteLocally(Transaction& transaction);
+  bool CompleteLocally(std::int16_t number, Transaction& transaction);
   std::shared_ptr<Exchange> BuildExchange(std::int16_t number,
                                           const std::shared_ptr<Transaction>& transaction);
-  void Code(Exchange& exchange, Transaction& transaction);
-  // Executes and waits; raises Cancelled after CancelExchange, ObjectNotSet after a tear-down.
-  void Wait(const std::shared_ptr<Exchange>& exchange,
-            const std::shared_ptr<Transaction>& transaction);
+  void CodeData(Exchange& exchange, const Transaction& transaction);
+  // Raises Cancelled after CancelExchange and ObjectNotSet after a tear-down.
+  void ExecuteAndWait(const std::shared_ptr<Exchange>& exchange,
+                      const std::shared_ptr<Transaction>& transaction);
+  // True when the exchange ended with a reply that could be used.
   bool ProcessReply(std::int16_t number, Exchange& exchange, Transaction& transaction);
   bool TakeReply(std::int16_t number, Exchange& exchange, Transaction& transaction);
-  bool FinishAsync(const std::shared_ptr<Exchange>& exchange, const CommandRef& reference);
+  void TakeNoReply(Transaction& transaction);
+  void LearnFrom(Exchange& exchange, const HartLinkSim::Frame& reply);
   std::shared_ptr<ILink> Link();
-  void EndAsyncExchanges();
 
-  // Executes command 0 through the kernel, once at a time, when the long address is not known.
+  // --- asynchronous commands ---
+  void FinishAsync(const std::shared_ptr<Exchange>& exchange);
+  void ForgetBackground(const std::shared_ptr<Exchange>& exchange);
+  void EndBackground();
+
+  // --- address ---
+  // Executes command 0 through the kernel. Without effect while that is going on already.
   void LearnLongAddress();
-  void ShowConnectionError(bool isCritical);
+  void ShowConnectionError(ErrorSeverity severity);
 
   ZAFHartTypes::ModelReference model_;
-  std::vector<std::uint8_t> replyBytes_;
+  std::vector<std::uint8_t> replyBytes_;  // of the last reply, status bytes included
   CommandStatus status_;
   std::int16_t lastCommandNumber_ = 0;
   std::int32_t lastResult_ = 0;
   bool emulate_ = false;
   bool useHartEmulator_ = true;
-  bool hadErrors_ = false;  // some exchange ended with an error or without reply
+  bool hadErrors_ = false;  // the status items of some command may hold an error
   std::string communicationMenu_;
   AddressVariables address_;
   std::string longAddress_;  // hexadecimal; "" until known
   bool isLearning_ = false;
   std::string linkClass_;
-  std::shared_ptr<ILink> link_;       // set by the host, or made from linkClass_
+  std::shared_ptr<ILink> hostLink_;
+  std::shared_ptr<ILink> ownLink_;    // made from linkClass_
   std::vector<UnderWay> waiting_;     // synchronous exchanges, the innermost last
   std::vector<UnderWay> background_;  // asynchronous exchanges
   frmAsynchronizer asynchronizer_;

@@ -46,6 +46,9 @@ class DeviceFile {
   // Writes the file in one go; raises PathFileAccess naming file and reason.
   void Save() const;
 
+  // Raises InvalidArgument for a name that cannot stand in front of "=": "", one with blanks at its
+  // ends, with "=" or a control character, or one that begins like a comment or a section.
+  static void RequireName(std::string_view name);
   // InvalidArgument about a line of this file.
   [[noreturn]] void RaiseAt(std::size_t line, const std::string& reason) const;
 
@@ -58,6 +61,7 @@ class DeviceFile {
   };
 
   Line Parse(std::string text, const std::string& section, std::size_t number) const;
+  void RequireFree(const Line& line, std::size_t number) const;
   std::string ParseSection(std::string_view text, std::size_t number) const;
   std::string Unquoted(std::string_view text, std::size_t number) const;
   std::size_t EndOfSection(std::string_view section);

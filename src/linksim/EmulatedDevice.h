@@ -11,8 +11,11 @@
 #include "interfaces/ILink.h"
 #include "linksim/DeviceFile.h"
 #include "linksim/DeviceMemory.h"
+#include "linksim/Frame.h"
 
 namespace HartLinkSim {
+
+class DeviceRequest;
 
 // A HART device in memory, with values of its own by variable name. It knows no DTM: it takes a
 // request's bytes apart by the types of its items, keeps what a write sends and answers from
@@ -36,7 +39,8 @@ class EmulatedDevice {
   // The value of a variable; nothing for an unknown name. Values from a file are texts until a
   // command has told their type.
   std::optional<ZAFHartTypes::Variant> Value(std::string_view name) const;
-  // Sets a value as the device itself would: no change of the configuration.
+  // Sets a value as the device itself would: no change of the configuration. Raises InvalidArgument
+  // for a name that cannot stand in a file, PathFileAccess when the file cannot be written.
   void SetValue(std::string_view name, const ZAFHartTypes::Variant& value);
   // The device status byte of the next reply (hart::DeviceStatusFlag).
   std::uint8_t Status() const { return status_; }
@@ -59,20 +63,23 @@ class EmulatedDevice {
   const std::string& LastError() const { return lastError_; }
 
  private:
-  class Request;
-
   bool IsAddressed(const ZAFHartTypes::Exchange& exchange) const;
   std::vector<std::uint8_t> CarryOut(const ZAFHartTypes::Exchange& exchange);
-  void Apply(std::int16_t command, const Request& request);
-  void Store(const Request& request);
+  void Store(const DeviceRequest& request);
   void CountConfigurationChange();
-  std::vector<std::uint8_t> ReplyTo(const ZAFHartTypes::Exchange& exchange, const Request& request);
+  void Apply(std::int16_t command, const DeviceRequest& request);
+  std::vector<std::uint8_t> ReplyTo(const ZAFHartTypes::Exchange& exchange,
+                                    const DeviceRequest& request);
+  void FillIn(Frame& reply, const ZAFHartTypes::DataItemList& items, const DeviceRequest& request);
+  ZAFHartTypes::Variant Known(const ZAFHartTypes::DataItem& item, const DeviceRequest& request,
+                              const ZAFHartTypes::Variant& inDataSet);
   std::vector<std::uint8_t> Refuse(std::uint8_t responseCode) const;
   void SetStatusFlag(std::uint8_t flag, bool set);
   void SaveAfterChange();
 
   DeviceMemory memory_;
   std::uint8_t status_ = 0;
+  bool statusIsChanged_ = false;  // since the file was written
   std::optional<DeviceFile> file_;
   SaveMode saveMode_ = SaveMode::EveryChange;
   std::string lastError_;

@@ -5,6 +5,7 @@
 #include <charconv>
 
 #include "hart/StatusBytes.h"
+#include "platform/AsciiText.h"
 #include "types/Failure.h"
 
 namespace HartLinkSim {
@@ -57,20 +58,14 @@ const Description& DescriptionOf(FaultKind kind) {
       "\"" + std::string(text) + "\" is no fault: " + reason + ". Faults are " + allowed + ".");
 }
 
-std::string_view Trimmed(std::string_view text) {
-  const std::size_t first = text.find_first_not_of(" \t");
-  if (first == std::string_view::npos) return {};
-  return text.substr(first, text.find_last_not_of(" \t") - first + 1);
-}
-
 std::vector<std::string_view> Split(std::string_view text, char separator) {
   std::vector<std::string_view> parts;
   for (std::size_t end = text.find(separator); end != std::string_view::npos;
        end = text.find(separator)) {
-    parts.push_back(Trimmed(text.substr(0, end)));
+    parts.push_back(platform::Trim(text.substr(0, end)));
     text.remove_prefix(end + 1);
   }
-  parts.push_back(Trimmed(text));
+  parts.push_back(platform::Trim(text));
   return parts;
 }
 
@@ -158,7 +153,7 @@ std::string FaultText(const Fault& fault) {
 
 Faults Faults::Parse(std::string_view text) {
   Faults faults;
-  if (Trimmed(text).empty()) return faults;
+  if (platform::Trim(text).empty()) return faults;
   for (const std::string_view part : Split(text, ',')) faults.Add(part);
   return faults;
 }

@@ -69,6 +69,7 @@ class Walk {
 
  private:
   ItemPlace PlaceOf(const DataItem& item) {
+    if (item.IsVariable()) BoundVariable(item);
     if (const ItemPlace* earlier = EarlierPlace(item)) {
       ItemPlace place = *earlier;
       place.repeated = true;

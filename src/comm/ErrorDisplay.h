@@ -1,0 +1,21 @@
+#pragma once
+
+#include <cstdint>
+
+#include "interfaces/IDDDTMGUI.h"
+#include "text/PromptValues.h"
+
+namespace ZAFHartLib {
+
+enum class ErrorSeverity : std::uint8_t {
+  Error,     // waits for the user
+  Critical,  // stands for 300 seconds at most
+};
+
+// Shows the string resource `id`, its references filled from `values`, as an error message, and
+// hides it again. True when the communication is to count as failed: always after a critical error,
+// otherwise when the user cancelled the message.
+bool ShowError(ZAFHartTypes::IDDDTMGUI& gui, ErrorSeverity severity, std::int32_t id,
+               const PromptValues& values = {});
+
+}  // namespace ZAFHartLib

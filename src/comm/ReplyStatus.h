@@ -1,0 +1,37 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <span>
+#include <string>
+
+#include "ddobjects/ByteBuffer.h"
+#include "ddobjects/ResponseCode.h"
+
+namespace ZAFHartLib {
+
+// Status of an exchange that got no reply: vertical parity and framing flags that no device sends.
+inline constexpr ZAFHartTypes::CommandStatus kNoReplyStatus{0, 144, 0};
+
+// Added to a response code or a communication error byte: the error number of a reply.
+inline constexpr std::int32_t kReplyErrorBase = 0x100000;
+
+// What a reply records on its variables.
+struct ReplyError {
+  std::int32_t number = 0;
+  std::string text;  // multilingual
+};
+
+// Takes the first two bytes of a reply apart: with bit 7 set, the first is a communication error
+// byte, otherwise a response code. `reply` has at least two bytes.
+ZAFHartTypes::CommandStatus SplitStatus(std::span<const std::uint8_t> reply);
+
+// The error of a status; nothing when there is none. The text of a response code comes from `codes`
+// (any type of code, warnings too), else from the string table.
+std::optional<ReplyError> ErrorOf(const ZAFHartTypes::CommandStatus& status,
+                                  const ZAFHartTypes::ResponseCodeList& codes);
+
+// The error of a variable whose bytes are missing in a reply that reports success.
+ReplyError MissingBytesError();
+
+}  // namespace ZAFHartLib
