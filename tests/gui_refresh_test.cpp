@@ -116,8 +116,13 @@ TEST_F(RefreshTest, AReadFinishedWhileItStartsDoesNotStopTheRefresh) {
   EXPECT_THAT(TakeReads(), ElementsAre("Async b"));
 }
 
-TEST_F(RefreshTest, EndsWithTheInstance) {
+TEST_F(RefreshTest, StopsUnderALockAndEndsWithTheInstance) {
   Add("a", 1);
+  Advance(1000);  // the signal to read waits
+  const std::int32_t lock = gui->SetUILock();
+  platform.Loop().Pump();
+  EXPECT_THAT(TakeReads(), IsEmpty());
+  gui->ReleaseUILock(lock);
   EXPECT_THAT(Collect(), ElementsAre("Async a"));
   gui->SetComponentModel(nullptr);
   Finish("a");

@@ -69,6 +69,11 @@ TEST_F(TraceStackTest, FailedOperationsLeaveTheirTextsToTheCaller) {
   a.reset();
   EXPECT_EQ(stack->Count(), 1);
   EXPECT_EQ(NewTrace()->GetStackInformation(), "\r\n[ A\r\n[ B\r\n");
+  {
+    const Operation unfixed("C");
+    NewTrace()->OpenStack(unfixed);
+  }
+  EXPECT_EQ(stack->Text(), "\r\n[ C\r\n> Level: 1\r\n");
 }
 
 TEST_F(TraceStackTest, LinesOfAnOperationAreBuiltForReadersOnly) {
