@@ -9,7 +9,8 @@ namespace ZAFHartLib {
 
 using ZAFHartTypes::IDDComponents;
 
-CDDWorkerDB::CDDWorkerDB() : expirySuspension_(std::make_shared<char>()) {}
+CDDWorkerDB::CDDWorkerDB(std::int32_t firstGeneration)
+    : expirySuspension_(std::make_shared<char>()), generation_(firstGeneration) {}
 
 CDDWorkerDB::~CDDWorkerDB() {
   for (auto& [name, entry] : objects_) entry.object->DropBindings();

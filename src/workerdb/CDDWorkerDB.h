@@ -47,7 +47,8 @@ class CDDWorkerDB : public platform::Object,
                     public ZAFHartTypes::IDataBaseExtension,
                     public ZAFHartTypes::ILateBound {
  public:
-  CDDWorkerDB();
+  // Tests of what happens after the last generation start near it.
+  explicit CDDWorkerDB(std::int32_t firstGeneration = 1);
   // Unbinds all objects from one another, so that circles among them do not keep them alive.
   ~CDDWorkerDB() override;
 
@@ -109,7 +110,7 @@ class CDDWorkerDB : public platform::Object,
   // "InitDefaultData"(class name) and "DynAvailTime".
   Variant Invoke(std::string_view name, std::span<const Variant> arguments) override;
 
-  // --- operations for other parts of the library: single storage ---
+  // --- single storage; from here on: operations for other parts of the library ---
   void SetSingleStorage(std::shared_ptr<ISingleStorage> manager);
   std::shared_ptr<ISingleStorage> GetSingleStorage() const { return singleStorage_; }
   void SetStorageMode(ZAFHartTypes::StorageMode mode) { storageMode_ = mode; }
@@ -284,7 +285,7 @@ class CDDWorkerDB : public platform::Object,
   std::shared_ptr<ISingleStorage> singleStorage_;
   std::shared_ptr<const void> expirySuspension_;  // held by others as well: suspended
 
-  std::int32_t generation_ = 1;
+  std::int32_t generation_;
   std::int32_t cleanGeneration_ = 0;
   std::int32_t dynAvailTime_ = 10;     // seconds
   std::int32_t staticAvailTime_ = -1;  // seconds; none
