@@ -1,5 +1,6 @@
 #include "platform/Clock.h"
 
+#include <ctime>
 #include <thread>
 
 namespace platform {
@@ -12,7 +13,17 @@ class SystemClock : public Clock {
     return std::chrono::duration_cast<Milliseconds>(
         std::chrono::steady_clock::now().time_since_epoch());
   }
-  void Sleep(Milliseconds duration) override { std::this_thread::sleep_for(duration); }
+#ifdef CLOCK_MONOTONIC_COARSE
+  Milliseconds CoarseNow() override {
+    std::timespec now{};
+    clock_gettime(CLOCK_MONOTONIC_COARSE, &now);
+    return std::chrono::duration_cast<Milliseconds>(std::chrono::seconds(now.tv_sec) +
+                                                    std::chrono::nanoseconds(now.tv_nsec));
+  }
+#endif
+  void Sleep(Milliseconds duration) override {
+    std::this_thread::sleep_for(duration);
+  }
   std::chrono::system_clock::time_point WallTime() override {
     return std::chrono::system_clock::now();
   }

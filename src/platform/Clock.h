@@ -16,12 +16,16 @@ class Clock {
   virtual ~Clock();
   // Time since some fixed moment; never goes back.
   virtual Milliseconds Now() = 0;
+  // The same, up to some 10 ms late and many times cheaper: for ages that count in seconds. Compare
+  // it with itself only.
+  virtual Milliseconds CoarseNow() { return Now(); }
   // Blocks the thread; a manual clock moves on instead.
   virtual void Sleep(Milliseconds duration) = 0;
   // Date and time of day, UTC.
   virtual std::chrono::system_clock::time_point WallTime() = 0;
 
   TickCount Ticks() { return static_cast<TickCount>(Now().count()); }
+  TickCount CoarseTicks() { return static_cast<TickCount>(CoarseNow().count()); }
 };
 
 std::unique_ptr<Clock> MakeSystemClock();

@@ -8,7 +8,7 @@ namespace ZAFHartLib {
 namespace {
 
 platform::TickCount Ticks() {
-  return platform::Current().GetClock().Ticks();
+  return platform::Current().GetClock().CoarseTicks();
 }
 
 }  // namespace
