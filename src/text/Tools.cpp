@@ -4,7 +4,6 @@
 #include "text/DisplayString.h"
 #include "text/LangText.h"
 #include "text/NumberMask.h"
-#include "text/TextHelpers.h"
 #include "text/modDDPrintF.h"
 
 namespace ZAFHartLib {

@@ -7,6 +7,7 @@
 #include "ddobjects/Variable.h"
 #include "platform/Object.h"
 #include "text/PromptValues.h"
+#include "text/TextHelpers.h"
 #include "types/Variant.h"
 
 namespace ZAFHartLib {
