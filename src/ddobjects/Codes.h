@@ -82,7 +82,7 @@ constexpr bool IsError(ResponseCodeType type) {
 }
 
 // Qualifiers of a menu item. Index 0 marks an item for display: the frame shows its value beside
-// its label. Index 1 is read-only.
-enum class MenuQualifier : std::uint8_t { DisplayValue = 0, ReadOnly = 1 };
+// its label. Index 1 is read-only; index 2 tells that it is so for the present user only.
+enum class MenuQualifier : std::uint8_t { DisplayValue = 0, ReadOnly = 1, Restricted = 2 };
 
 }  // namespace ZAFHartTypes

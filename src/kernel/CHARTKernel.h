@@ -20,6 +20,8 @@ class KernelOperation;
 class PostingIndex;
 class TraceScope;
 struct Execution;
+struct ReplyBytes;
+struct ResponseVerdict;
 enum class SearchKind : bool;
 
 // The kernel of one DTM instance: resolves DD objects through the data models and the worker
@@ -130,9 +132,9 @@ class CHARTKernel : public platform::Object,
   friend class KernelOperation;
   class VariableGuard;
   class CommandGuard;
-  class NoGuard;
+  class NestingGuard;
   class ReadRecursion;
-  class ErrorHandlerScope;
+  class CommandSearch;
   template <typename Object>
   struct Getter;
 
@@ -143,11 +145,16 @@ class CHARTKernel : public platform::Object,
     DependencyFrame* frame = nullptr;  // of the computation that calls back
   };
   enum class AsyncTrace : bool { Plain, Extended };
+  enum class Binding : bool { Synchronous, Asynchronous };
+  enum class MenuReads : bool { No, Yes };
+  enum class PreEdit : bool { No, Yes };
   // How a relation's evaluation left its specifier: known to stand, or to be computed again.
   enum class Specifier : bool { Open, Settled };
-  enum class MenuReads : bool { No, Yes };
+  using OptimizedSearch = std::shared_ptr<CommandRef> (ICommandOptimization::*)(IDDComponents&,
+                                                                                const Definition&);
+  using EditItemList = ZAFHartTypes::EditDisplayItems& (EditDisplay::*)();
 
-  // --- KernelCore.cpp ---
+  // --- KernelCore.cpp, KernelTemplates.h ---
   std::shared_ptr<ZAFHartTypes::IDDWorkerDB> Database() const { return model_.Database(); }
   std::shared_ptr<ZAFHartTypes::IDDDTMGUI> Gui() const { return model_.Gui(); }
   std::shared_ptr<ZAFHartTypes::IDDCommWrapper> Comm() const { return model_.Comm(); }
@@ -161,17 +168,22 @@ class CHARTKernel : public platform::Object,
   // The same, but ObjectNotSet, naming the item and the operation.
   template <typename Object>
   std::shared_ptr<Object> Stored(const Definition& definition, const char* operation) const;
-  [[noreturn]] static void RaiseUnknown(const Definition& definition, const char* operation);
+  [[noreturn]] static void RaiseUnknown(const Definition& definition, ZAFHartTypes::ObjectKind kind,
+                                        const char* operation);
   void Store(const std::shared_ptr<DDObject>& object) const;
   void Show(const std::shared_ptr<DDObject>& object) const;
   // Reports an object error; the user may be asked meanwhile.
   void Report(const std::shared_ptr<DDObject>& object, ZAFHartTypes::ItemIndex index);
 
   // --- Getters.cpp ---
+  template <typename Guard, typename Object>
+  std::shared_ptr<Object> Get(const Getter<Object>& getter, const Definition& definition);
+  template <typename Guard, typename Object>
+  void Compute(const Getter<Object>& getter, Guard& guard, std::shared_ptr<Object>& object);
   template <typename Object>
-  std::shared_ptr<Object> Get(const Definition& definition);
-  template <typename Object>
-  std::shared_ptr<Object> Computed(IDDDataModel* model, std::shared_ptr<Object> object);
+  std::shared_ptr<Object> ComputedBy(const std::shared_ptr<IDDDataModel>& model,
+                                     const Getter<Object>& getter,
+                                     const std::shared_ptr<Object>& object);
   void AfterLookUp(DDObject&) {}
   void AfterLookUp(Menu& menu) { ApplyAccessRestrictions(menu); }
   void AfterComputing(DDObject&) {}
@@ -179,6 +191,7 @@ class CHARTKernel : public platform::Object,
   void AfterComputing(Command& command);
   void AfterComputing(Menu& menu);
   void AfterStoring(DDObject&) {}
+  void AfterStoring(ItemArray& array);
   void AfterStoring(Variable& variable) { ShowIf(variable.Validity(), variable); }
   void AfterStoring(Method& method) { ShowIf(method.IsValid(), method); }
   void AfterStoring(Menu& menu) { ApplyAccessRestrictions(menu); }
@@ -186,7 +199,8 @@ class CHARTKernel : public platform::Object,
   void ApplyAccessRestrictions(Menu& menu);
   bool IsAccessRestricted();
 
-  // --- ReadVariable.cpp, AsyncReadVariable.cpp, WriteVariable.cpp ---
+  // --- ReadVariable.cpp ---
+  static bool CanBeRead(const Variable& variable);
   static bool NeedsDeviceRead(const Variable& variable);
   void TakeSubstitute(const std::shared_ptr<Variable>& variable) const;
   void BringUnit(const std::shared_ptr<Variable>& variable);
@@ -194,53 +208,80 @@ class CHARTKernel : public platform::Object,
   std::shared_ptr<CommandRef> ReadAsync(const Definition& definition, AsyncTrace trace);
   void RefuseAsync(const std::shared_ptr<Variable>& variable, AsyncTrace trace);
   std::shared_ptr<CommandRef> ChooseAsyncCommand(const Definition& definition);
-  bool WriteToDevice(TraceScope& trace, const std::shared_ptr<Variable>& variable,
-                     const Variant& value);
-  void EndDeviceWrite(const Definition& definition, const CommandRef& command,
-                      const ZAFHartTypes::CommandStatus& status);
+
+  // --- WriteVariable.cpp ---
+  void StoreNewValue(Variable& variable, const Variant& value) const;
+  void WriteLocally(const std::shared_ptr<Variable>& variable, const Variant& value);
+  void EndDeviceWrite(const std::shared_ptr<Variable>& variable,
+                      const std::shared_ptr<CommandRef>& command);
   void GiveUpWrite(const Definition& definition);
   void GiveUpRequest(const Definition& written, const CommandRef& command,
                      const ZAFHartTypes::CommandStatus& status);
-  void WriteLocally(const std::shared_ptr<Variable>& variable, const Variant& value);
-  void StoreNewValue(Variable& variable, const Variant& value) const;
   void MarkModified(const Definition& definition) const;
 
   // --- CommandSearch.cpp ---
+  std::shared_ptr<CommandRef> Optimized(OptimizedSearch search, const Definition& definition);
   std::shared_ptr<CommandRef> Search(SearchKind kind, const Definition& definition,
-                                     const std::shared_ptr<CommandRef>& previous, bool fullWalk);
-  class CommandWalk;
+                                     const std::shared_ptr<CommandRef>& previous,
+                                     const TraceScope& trace);
 
-  // --- CommandExecution.cpp, ResponseEvaluation.cpp ---
-  void Prepare(Execution& execution);
+  // --- CommandExecution.cpp ---
+  void Prepare(Execution& execution, Binding binding);
   void BindRequest(DataItemList& request);
-  void BringRequestValue(ZAFHartTypes::DataItem& item);
-  void BindReply(Execution& execution);
-  void RefreshRequest(DataItemList& request);
-  void Finish(Execution& execution);
-  void StoreWritten(Execution& execution);
+  bool AwaitsItsUnit(const Variable& variable);
+  void BindReply(Transaction& transaction, Binding binding);
+  std::shared_ptr<Variable> ReplyVariable(const Definition& definition, Binding binding);
+  void BindRest(DataItemList& items) const;
+  void Complete(Execution& execution);
+  void StoreWritten(Execution& execution) const;
   void SetReplyUnits(DataItemList& reply) const;
   void StoreRead(const Execution& execution) const;
-  void EvaluateRequestRelations(const DataItemList& request);
   void RefreshReply(DataItemList& reply);
-  void PutStatusBytes(const Execution& execution) const;
-  void EvaluateResponse(const Execution& execution);
-  void RecordVerdict(const Definition& definition, std::int32_t error,
-                     const std::string& message) const;
-  void RunItemActions(const char* operation, ZAFHartTypes::ActionList list, DataItemList& items);
+  void PutStatusBytes(Transaction& transaction, ReplyBytes bytes) const;
 
-  // --- Relations.cpp, WriteAsOne.cpp ---
-  void EvaluateRelation(const Definition& relation, const Definition& variable);
+  // --- ResponseEvaluation.cpp, Actions.cpp ---
+  void EvaluateResponse(const Execution& execution);
+  bool RecordVerdict(const Definition& definition, const ResponseVerdict& verdict) const;
+  void RecordLastError(const std::string& message);
+  void RunItemActions(const char* name, ZAFHartTypes::ActionList list, DataItemList& items);
+
+  // --- Relations.cpp ---
+  void EvaluateRelation(std::size_t position, const Definition& relation, const Definition& context,
+                        const CDDWorkerDB* tracking);
   Specifier EvaluateRefresh(const Definition& relation, const Definition& context);
   Specifier EvaluateUnit(const Definition& relation, const Definition& context);
-  void IndexRelation(std::size_t position, const Definition& relation, Specifier specifier);
+  void ApplyUnit(const ZAFHartTypes::UnitRelation& relation, const Definition& remembered,
+                 const Definition& context);
+  template <typename Relation, typename ComputeOperation>
+  Specifier ComputeSpecifier(std::shared_ptr<Relation>& relation, ComputeOperation compute);
   void KeepPending(const Definition& relation, const Definition& context);
-  template <typename Relation>
-  void RunPreEditActions(const Definition& variable, const Relation& run);
-  bool IsNewEdit(const Definition& variable);
+  std::vector<Definition> TakePending(const Definition& relation);
 
-  // --- Menus.cpp, MenuEditing.cpp, EditDisplays.cpp ---
+  // --- Editing.cpp, WriteAsOne.cpp ---
+  bool BeginsEdit(const Definition& variable);
+  void EnterField(const std::shared_ptr<Variable>& field, PreEdit preEdit);
+  Variant EditedValueOf(const std::shared_ptr<Variable>& field) const;
+  void TakeEditedValue(const std::shared_ptr<Variable>& field, const Variant& value);
+  void EndEdit(const std::shared_ptr<Variable>& field);
+  static bool IsMember(const WriteAsOne& group, const Definition& variable);
+  void EnterMember(std::shared_ptr<Variable>& variable);
+  void LeaveMember(std::shared_ptr<Variable>& variable);
+  void CheckComplete(WriteAsOne& group);
+
+  // --- Menus.cpp, EditDisplays.cpp, Elements.cpp ---
+  std::shared_ptr<Menu> Start(const Definition& definition, const char* name, MenuReads reads);
   std::shared_ptr<Menu> PrepareMenu(const Definition& definition, MenuReads reads);
   std::shared_ptr<DDObject> PrepareItem(const Definition& definition, MenuReads reads);
+  void ExecuteVariableItem(const std::shared_ptr<Variable>& field, bool isReadOnly, bool isEntered);
+  void LeaveMenuField(const std::shared_ptr<Variable>& field);
+  void WriteChangesAtOnce();
+  void ExecuteSubMenu(const Definition& definition, bool isReadOnly, bool isEntered);
+  void SetSubMenuReadOnly(const Definition& definition, bool isReadOnly) const;
+  void ExecuteEditDisplayItem(const std::shared_ptr<EditDisplay>& field, bool isEntered);
+  bool PrepareItems(const std::shared_ptr<EditDisplay>& display, EditItemList list,
+                    std::initializer_list<ZAFHartTypes::ObjectKind> allowed);
+  void EndGroupEdit(WriteAsOne& group, const std::shared_ptr<DDObject>& object);
+  std::shared_ptr<DDObject> EntryOf(const Definition& item);
 
   ZAFHartTypes::ModelReference model_;
   std::shared_ptr<IDDDataModel> deviceModel_;

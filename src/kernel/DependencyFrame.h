@@ -23,10 +23,10 @@ enum class ReadSort : bool {
 class DependencyFrame {
  public:
   // `innermost` is the head of the stack of frames. A frame without a database, or for an object
-  // whose attributes never go stale, notes nothing. `repeated`: the object is being computed
-  // further up the call chain already; what was noted there stays.
+  // whose attributes never go stale, notes nothing. What an enclosing computation of the same
+  // object has noted stays.
   DependencyFrame(DependencyFrame*& innermost, std::shared_ptr<CDDWorkerDB> database,
-                  const ZAFHartTypes::Definition& object, bool repeated = false);
+                  const ZAFHartTypes::Definition& object);
   ~DependencyFrame();
   DependencyFrame(const DependencyFrame&) = delete;
   DependencyFrame& operator=(const DependencyFrame&) = delete;
@@ -37,6 +37,8 @@ class DependencyFrame {
   // Something that was read has changed since: the result is stale as it is finished.
   bool IsOutdated() const { return outdated_; }
 
+  // How many computations of the object are under way.
+  static int Nesting(const DependencyFrame* innermost, const ZAFHartTypes::Definition& object);
   // Marks all frames of the object from `innermost` outwards as outdated.
   static void Outdate(DependencyFrame* innermost, const ZAFHartTypes::Definition& object);
 
