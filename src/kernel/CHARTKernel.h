@@ -135,7 +135,7 @@ class CHARTKernel : public platform::Object,
   class NestingGuard;
   class ReadRecursion;
   class CommandSearch;
-  template <typename Object>
+  template <typename View>
   struct Getter;
 
   // What belongs to the operation under way; put aside while others may run.
@@ -163,11 +163,11 @@ class CHARTKernel : public platform::Object,
   void AttributesStale(const Definition& object);
   void RunUnitRelations();
   // The object to work with; nothing for an unknown name or another kind.
-  template <typename Object>
-  std::shared_ptr<Object> Find(const Definition& definition) const;
+  template <typename View>
+  std::shared_ptr<View> Find(const Definition& definition) const;
   // The same, but ObjectNotSet, naming the item and the operation.
-  template <typename Object>
-  std::shared_ptr<Object> Stored(const Definition& definition, const char* operation) const;
+  template <typename View>
+  std::shared_ptr<View> Stored(const Definition& definition, const char* operation) const;
   [[noreturn]] static void RaiseUnknown(const Definition& definition, ZAFHartTypes::ObjectKind kind,
                                         const char* operation);
   void Store(const std::shared_ptr<DDObject>& object) const;
@@ -176,14 +176,14 @@ class CHARTKernel : public platform::Object,
   void Report(const std::shared_ptr<DDObject>& object, ZAFHartTypes::ItemIndex index);
 
   // --- Getters.cpp ---
-  template <typename Guard, typename Object>
-  std::shared_ptr<Object> Get(const Getter<Object>& getter, const Definition& definition);
-  template <typename Guard, typename Object>
-  void Compute(const Getter<Object>& getter, Guard& guard, std::shared_ptr<Object>& object);
-  template <typename Object>
-  std::shared_ptr<Object> ComputedBy(const std::shared_ptr<IDDDataModel>& model,
-                                     const Getter<Object>& getter,
-                                     const std::shared_ptr<Object>& object);
+  template <typename Guard, typename View>
+  std::shared_ptr<View> Get(const Getter<View>& getter, const Definition& definition);
+  template <typename Guard, typename View>
+  void Compute(const Getter<View>& getter, Guard& guard, std::shared_ptr<View>& object);
+  template <typename View>
+  std::shared_ptr<View> ComputedBy(const std::shared_ptr<IDDDataModel>& model,
+                                     const Getter<View>& getter,
+                                     const std::shared_ptr<View>& object);
   void AfterLookUp(DDObject&) {}
   void AfterLookUp(Menu& menu) { ApplyAccessRestrictions(menu); }
   void AfterComputing(DDObject&) {}
@@ -212,8 +212,7 @@ class CHARTKernel : public platform::Object,
   // --- WriteVariable.cpp ---
   void StoreNewValue(Variable& variable, const Variant& value) const;
   void WriteLocally(const std::shared_ptr<Variable>& variable, const Variant& value);
-  void EndDeviceWrite(const std::shared_ptr<Variable>& variable,
-                      const std::shared_ptr<CommandRef>& command);
+  void EndDeviceWrite(const Definition& definition, const std::shared_ptr<CommandRef>& command);
   void GiveUpWrite(const Definition& definition);
   void GiveUpRequest(const Definition& written, const CommandRef& command,
                      const ZAFHartTypes::CommandStatus& status);

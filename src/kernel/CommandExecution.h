@@ -3,6 +3,7 @@
 #include <memory>
 
 #include "ddobjects/Command.h"
+#include "ddobjects/DefinitionList.h"
 #include "kernel/StatusBytes.h"
 
 namespace ZAFHartLib {

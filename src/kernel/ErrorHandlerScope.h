@@ -4,6 +4,7 @@
 
 #include "interfaces/IDDDTMGUI.h"
 #include "trace/CEmptyErrorHandler.h"
+#include "types/Failure.h"
 
 namespace ZAFHartLib {
 

@@ -14,12 +14,12 @@ namespace ZAFHartLib {
 using namespace ZAFHartTypes;
 
 // What tells the getters of the family apart, beside their guards and the After… steps.
-template <typename Object>
+template <typename View>
 struct CHARTKernel::Getter {
   const char* operation;
   const char* word;
-  std::shared_ptr<Object> (IDDDataModel::*compute)(IDDKernel&, IDDComponents&, const std::string&,
-                                                   std::shared_ptr<Object>);
+  std::shared_ptr<View> (IDDDataModel::*compute)(IDDKernel&, IDDComponents&, const std::string&,
+                                                   std::shared_ptr<View>);
 };
 
 namespace {
@@ -55,12 +55,12 @@ Definition InternalVariable(std::string_view name) {
 
 }  // namespace
 
-template <typename Guard, typename Object>
-std::shared_ptr<Object> CHARTKernel::Get(const Getter<Object>& getter,
+template <typename Guard, typename View>
+std::shared_ptr<View> CHARTKernel::Get(const Getter<View>& getter,
                                          const Definition& definition) {
   KernelOperation operation(*this, getter.operation, {{trace_tag::kDef, definition}});
   operation.Reads(definition, ReadSort::Attributes);
-  auto object = Stored<Object>(definition, getter.operation);
+  auto object = Stored<View>(definition, getter.operation);
   if (object->AttributesAvailable()) {
     AfterLookUp(*object);
     return operation.Return(object, kCurrent);
@@ -80,9 +80,9 @@ std::shared_ptr<Object> CHARTKernel::Get(const Getter<Object>& getter,
   return operation.Return(object, kComputed);
 }
 
-template <typename Guard, typename Object>
-void CHARTKernel::Compute(const Getter<Object>& getter, Guard& guard,
-                          std::shared_ptr<Object>& object) {
+template <typename Guard, typename View>
+void CHARTKernel::Compute(const Getter<View>& getter, Guard& guard,
+                          std::shared_ptr<View>& object) {
   const Definition definition = object->ObjectDefinition();
   DependencyFrame frame(innermostFrame_, TrackingDatabase(), definition);
   {
@@ -103,10 +103,10 @@ void CHARTKernel::Compute(const Getter<Object>& getter, Guard& guard,
   guard.Run([&] { AfterStoring(*object); });
 }
 
-template <typename Object>
-std::shared_ptr<Object> CHARTKernel::ComputedBy(const std::shared_ptr<IDDDataModel>& model,
-                                                const Getter<Object>& getter,
-                                                const std::shared_ptr<Object>& object) {
+template <typename View>
+std::shared_ptr<View> CHARTKernel::ComputedBy(const std::shared_ptr<IDDDataModel>& model,
+                                                const Getter<View>& getter,
+                                                const std::shared_ptr<View>& object) {
   if (!model) {
     throw Failure(ErrorNumber::ObjectNotSet, getter.operation,
                   "The kernel has no data model; InitializeDB creates it.");

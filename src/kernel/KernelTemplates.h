@@ -15,8 +15,8 @@ std::shared_ptr<View> ViewOf(const std::shared_ptr<ZAFHartTypes::DDObject>& obje
 }
 
 // An argument that an operation cannot do without: ObjectNotSet when it is missing.
-template <typename Object>
-void RequireObject(const std::shared_ptr<Object>& object, const char* operation) {
+template <typename View>
+void RequireObject(const std::shared_ptr<View>& object, const char* operation) {
   if (object) return;
   throw ZAFHartTypes::Failure(ZAFHartTypes::ErrorNumber::ObjectNotSet, operation,
                               "An object that the operation works on is missing.");
@@ -31,16 +31,16 @@ std::shared_ptr<View> RequireView(const std::shared_ptr<ZAFHartTypes::DDObject>&
                               ZAFHartTypes::kWrongKind);
 }
 
-template <typename Object>
-std::shared_ptr<Object> CHARTKernel::Find(const Definition& definition) const {
-  return ViewOf<Object>(Database()->ReadObject(definition));
+template <typename View>
+std::shared_ptr<View> CHARTKernel::Find(const Definition& definition) const {
+  return ViewOf<View>(Database()->ReadObject(definition));
 }
 
-template <typename Object>
-std::shared_ptr<Object> CHARTKernel::Stored(const Definition& definition,
+template <typename View>
+std::shared_ptr<View> CHARTKernel::Stored(const Definition& definition,
                                             const char* operation) const {
-  auto object = Find<Object>(definition);
-  if (!object) RaiseUnknown(definition, Object::kKind, operation);
+  auto object = Find<View>(definition);
+  if (!object) RaiseUnknown(definition, View::kKind, operation);
   return object;
 }
 

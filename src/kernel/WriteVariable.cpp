@@ -17,6 +17,7 @@ using namespace ZAFHartTypes;
 
 namespace {
 
+constexpr const char* kOperation = "IDDKernel_WriteVariable";
 constexpr int kNoCommand = 1;
 constexpr int kDone = 2;
 
@@ -32,22 +33,22 @@ bool IsInternal(const Definition& definition) {
 }  // namespace
 
 void CHARTKernel::WriteVariable(const Definition& definition, const Variant& value) {
-  KernelOperation operation(*this, "IDDKernel_WriteVariable",
+  KernelOperation operation(*this, kOperation,
                             {{trace_tag::kDef, definition}, {trace_tag::kVal, value}});
   const auto variable = GetVariable(definition);
   if (!variable->Validity()) Report(variable, ItemIndex::WriteNotValid);
   if (GoesToDevice(*variable, value)) {
     StoreNewValue(*variable, value);
-    Show(Find<Variable>(definition));
+    Show(Stored<Variable>(definition, kOperation));
     const auto command = FindWriteCommand(definition);
     if (!command) {
-      Report(variable, ItemIndex::CannotWrite);
+      Report(Stored<Variable>(definition, kOperation), ItemIndex::CannotWrite);
       operation.Release(kNoCommand);
       Database()->SetVariableToBeWritten(definition, false);
       return;
     }
     ExecuteCommand(command->Command(), command->TransactionNumber());
-    EndDeviceWrite(variable, command);
+    EndDeviceWrite(definition, command);
   } else if (variable->Attributes().IsLibraryHeld() && variable->CheckValue(value, true)) {
     WriteLocally(variable, value);
   } else {
@@ -81,31 +82,29 @@ void CHARTKernel::WriteLocally(const std::shared_ptr<Variable>& variable, const 
   ExecuteRelations(definition);
   variable->SetIsChecked(true);
   MarkModified(definition);
-  Show(Find<Variable>(definition));
+  Show(Stored<Variable>(definition, kOperation));
 }
 
 void CHARTKernel::MarkModified(const Definition& definition) const {
   if (!IsInternal(definition)) SetDataSetState(*Database(), DataSetState::ValidModified);
 }
 
-void CHARTKernel::EndDeviceWrite(const std::shared_ptr<Variable>& variable,
+void CHARTKernel::EndDeviceWrite(const Definition& definition,
                                  const std::shared_ptr<CommandRef>& command) {
   const CommandStatus status = StatusFromReply(ReplyBytesOf(*command->ReferredTransaction()));
-  if (status.communication != 0) {
-    GiveUpRequest(variable->Definition(), *command, status);
-    GiveUpWrite(variable->Definition());
-    Report(variable, ItemIndex::CannotWrite);
-    return;
+  if (status.communication != 0 || status.responseCode != 0) {
+    GiveUpRequest(definition, *command, status);
+    GiveUpWrite(definition);
   }
-  if (status.responseCode != 0) {
-    GiveUpRequest(variable->Definition(), *command, status);
-    GiveUpWrite(variable->Definition());
+  if (status.communication != 0) {
+    Report(Stored<Variable>(definition, kOperation), ItemIndex::CannotWrite);
+    return;
   }
   {
     ScopedValue wait(context_, Context{});
     Gui()->ResponseCodeError(status, command);
   }
-  MarkModified(variable->Definition());
+  MarkModified(definition);
 }
 
 // The device's value stands.

@@ -153,6 +153,9 @@ class CDDWorkerDB : public platform::Object,
   // adding once.
   void AddDependency(const Definition& object, const Definition& variable);
   void AddDependent(const Definition& object, const Definition& variable);
+  // The attributes of `source` were used to compute those of `object`: what makes the former stale
+  // makes the latter stale.
+  void InheritDependencies(const Definition& object, const Definition& source);
   // One of the two was added.
   bool IsDependent(const Definition& object, const Definition& variable) const;
   // Forgets both for the object; call it before its attributes are computed anew.
@@ -165,6 +168,10 @@ class CDDWorkerDB : public platform::Object,
   // database. Empty for none.
   using InvalidationSink = std::function<void(const Definition&)>;
   void SetInvalidationSink(InvalidationSink sink) { invalidationSink_ = std::move(sink); }
+  // Called with every object that ReadObject is about to hand out. It may add dependencies. Empty
+  // for none.
+  using ReadSink = std::function<void(const Definition&)>;
+  void SetReadSink(ReadSink sink) { readSink_ = std::move(sink); }
 
   // --- engineering units ---
   // Runs the method "__ZAF__init_unit_table" through the kernel when the DD has it and it is valid.
@@ -278,6 +285,7 @@ class CDDWorkerDB : public platform::Object,
   NameSet staticAttributeNames_;
   DependencyTable dependencies_;
   InvalidationSink invalidationSink_;
+  ReadSink readSink_;
   std::vector<std::weak_ptr<StateCounter>> counters_;
   std::unordered_map<ZAFHartTypes::TextKey, std::size_t, ZAFHartTypes::TextKeyHash> unitUsers_;
   UnitTable units_;

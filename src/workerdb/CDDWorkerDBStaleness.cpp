@@ -40,6 +40,13 @@ void CDDWorkerDB::AddDependent(const Definition& object, const Definition& varia
   dependencies_.AddDependent(object.Key(), variable.Key());
 }
 
+void CDDWorkerDB::InheritDependencies(const Definition& object, const Definition& source) {
+  dependencies_.Inherit(object.Key(), source.Key(), [this](TextKey variable) {
+    const Entry* entry = objects_.Find(variable);
+    return entry && entry->variable && !entry->variable->Available();
+  });
+}
+
 bool CDDWorkerDB::IsDependent(const Definition& object, const Definition& variable) const {
   return dependencies_.IsDependent(object.Key(), variable.Key());
 }

@@ -1,5 +1,7 @@
 #include "workerdb/DependencyTable.h"
 
+#include <vector>
+
 namespace ZAFHartLib {
 
 bool DependencyTable::Connect(TextKey object, TextKey variable, Relation relation) {
@@ -21,6 +23,19 @@ void DependencyTable::AddDependency(TextKey object, TextKey variable, bool missi
 
 void DependencyTable::AddDependent(TextKey object, TextKey variable) {
   Connect(object, variable, kDependent);
+}
+
+void DependencyTable::Inherit(TextKey object, TextKey source,
+                              const std::function<bool(TextKey)>& isMissing) {
+  const Node* node = Find(source);
+  if (!node || object == source) return;
+  const std::vector<TextKey> variables(node->variables.begin(), node->variables.end());
+  for (const TextKey variable : variables) {
+    if (variable == object) continue;
+    const std::uint8_t relations = nodes_[variable].objects[source];
+    if ((relations & kDependency) != 0) AddDependency(object, variable, isMissing(variable));
+    if ((relations & kDependent) != 0) AddDependent(object, variable);
+  }
 }
 
 bool DependencyTable::IsDependent(TextKey object, TextKey variable) const {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <unordered_map>
 #include <unordered_set>
 
@@ -21,6 +22,9 @@ class DependencyTable {
   void AddDependency(TextKey object, TextKey variable, bool missing);
   void AddDependent(TextKey object, TextKey variable);
   bool IsDependent(TextKey object, TextKey variable) const;
+  // The object stands to every variable as `source`, which was used to compute it, does.
+  // `isMissing`(variable): as in AddDependency.
+  void Inherit(TextKey object, TextKey source, const std::function<bool(TextKey)>& isMissing);
   // Forgets what the object was computed from, before it is computed anew.
   void Clear(TextKey object);
 

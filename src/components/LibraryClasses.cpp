@@ -1,0 +1,37 @@
+#include "components/LibraryClasses.h"
+
+#include "comm/CDDTestCommWrapper.h"
+#include "components/CDDComponents.h"
+#include "fdtobjects/CFDTDataModel.h"
+#include "gui/CDDDTMGUI.h"
+#include "kernel/CHARTKernel.h"
+#include "linksim/DeviceLink.h"
+#include "linksim/EchoLink.h"
+#include "trace/CEmptyErrorHandler.h"
+#include "workerdb/CDDWorkerDB.h"
+#include "workerdb/CIniCollection.h"
+
+namespace ZAFHartLib {
+namespace {
+
+template <typename Class>
+void Register(platform::ComponentClasses& classes, const char* name) {
+  classes.Register(name, [] { return std::make_shared<Class>(); });
+}
+
+}  // namespace
+
+void RegisterLibraryClasses(platform::ComponentClasses& classes) {
+  classes.Register("ZAFHartLib.CDDComponents", [] { return CDDComponents::Create(); });
+  Register<CHARTKernel>(classes, "ZAFHartLib.CHARTKernel");
+  Register<CDDWorkerDB>(classes, "ZAFHartLib.CDDWorkerDB");
+  Register<CDDDTMGUI>(classes, "ZAFHartLib.CDDDTMGUI");
+  Register<CDDTestCommWrapper>(classes, "ZAFHartLib.CDDTestCommWrapper");
+  Register<CFDTDataModel>(classes, "ZAFHartLib.CFDTDataModel");
+  Register<CEmptyErrorHandler>(classes, "ZAFHartLib.CEmptyErrorHandler");
+  Register<CIniCollection>(classes, "ZAFHartLib.CIniCollection");
+  Register<HartLinkSim::EchoLink>(classes, "HartLinkSim.EchoLink");
+  Register<HartLinkSim::DeviceLink>(classes, "HartLinkSim.DeviceLink");
+}
+
+}  // namespace ZAFHartLib
