@@ -23,8 +23,8 @@ BENCHMARK(Floor_snprintf);
 
 void FormatDDString(benchmark::State& state) {
   ZAFHartLib::PromptValues values;
-  values.Add("0", Variant("12.34"));
-  values.Add("0LABEL", Variant("PV"));
+  values.Set("0", Variant("12.34"));
+  values.Set("0LABEL", Variant("PV"));
   const std::string prompt = "Value: %[8.3f]{0} %[L]{0}";
   for (auto _ : state) benchmark::DoNotOptimize(ZAFHartLib::FormatDDString(prompt, values));
 }
