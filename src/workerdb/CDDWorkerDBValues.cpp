@@ -1,12 +1,9 @@
 // Values and contents that come in.
 
-#include <algorithm>
-
 #include "types/Failure.h"
 #include "workerdb/StoredObjects.h"
 
 namespace ZAFHartLib {
-
 namespace {
 
 using ZAFHartTypes::AccessMode;
