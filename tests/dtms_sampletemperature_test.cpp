@@ -133,41 +133,6 @@ TEST(SampleTemperature, CommandsHaveTheirLayouts) {
   }
 }
 
-// Names that a command of that operation carries, those of its arrays' elements included.
-std::set<std::string> Carried(Operation operation) {
-  std::set<std::string> names;
-  for (const auto& command : All<Command>()) {
-    if (command->Operation() != operation) continue;
-    for (const auto& transaction : command->Transactions()) {
-      for (const DataItem& item :
-           operation == Operation::Read ? transaction->Reply() : transaction->Request()) {
-        if (!item.IsVariable()) continue;
-        const auto variable = Description().Prototype<Variable>(item.VariableDefinition().Name());
-        if (!item.IsInfo()) names.insert(variable->Definition().Name());
-        if (!item.IsIndex()) continue;
-        for (const ArrayElement& element : variable->TypeInfo().IndexedArray()->Elements()) {
-          const auto collection =
-              Description().Prototype<ItemCollection>(element.definition.Name());
-          for (const CollectionMember& member : collection->Members())
-            names.insert(member.definition.Name());
-        }
-      }
-    }
-  }
-  return names;
-}
-
-TEST(SampleTemperature, CommandsReadAndWriteEveryVariable) {
-  const auto read = Carried(Operation::Read);
-  const auto written = Carried(Operation::Write);
-  for (const auto& variable : All<Variable>()) {
-    const std::string& name = variable->Definition().Name();
-    if (variable->Attributes().IsLibraryHeld()) continue;
-    EXPECT_TRUE(read.contains(name) || !variable->CheckHandling(AccessMode::Read)) << name;
-    EXPECT_TRUE(written.contains(name) || !variable->CheckHandling(AccessMode::Write)) << name;
-  }
-}
-
 TEST(SampleTemperature, UploadMenuListsTheConfiguration) {
   const auto menu = Description().Prototype<Menu>("upload_variables");
   std::set<std::string> names;
