@@ -15,25 +15,27 @@ TEST(LangTextTest, ChoosesALanguage) {
     const char* lang;
     const char* expected;
   };
-  const Case cases[] = {{"plain", "de", "plain"},
-                        {"", "de", ""},
-                        {ResText(100), "de", "Vorgang abgebrochen"},
-                        {ResText(100), "it", "Process Aborted"},
-                        {ResText(100), "", "Process AbortedVorgang abgebrochenProcessus abandonné"},
-                        {"|049eins|001one", "en", "one"},
-                        {"|049eins|001one", "de", "eins"},
-                        {"|081zero|de|null", "081", "zero"},
-                        {"|081zero|de|null", "en", "zero"},  // neither: the first segment
-                        {"|de|eins", "fr", "eins"},
-                        {"one|de||fr|un", "fr", "one"},  // an empty segment ends the reading
-                        {"one|de|eins|de|zwei", "de", "einszwei"},
-                        {"|xen|odd", "en", "odd"},  // the code contains "en"
-                        {"|only", "de", "only"},    // no code
-                        {"|only", "", "only"},
-                        {"|ab", "de", ""},
-                        {"|", "de", ""},
-                        {"|0\xC3\xA4|x", "en", "x"},  // "0ä|" counts as a code of three characters
-                        {"one|de|\xFF\xC3", "de", "\xFF\xC3"}};
+  const Case cases[] = {
+      {"plain", "de", "plain"},
+      {"", "de", ""},
+      {ResText(100), "de", "Vorgang abgebrochen"},
+      {ResText(100), "it", "Processo terminato"},
+      {ResText(100), "",
+       "Process AbortedVorgang abgebrochenProcessus abandonnéProcesso terminatoProceso anulado"},
+      {"|049eins|001one", "en", "one"},
+      {"|049eins|001one", "de", "eins"},
+      {"|081zero|de|null", "081", "zero"},
+      {"|081zero|de|null", "en", "zero"},  // neither: the first segment
+      {"|de|eins", "fr", "eins"},
+      {"one|de||fr|un", "fr", "one"},  // an empty segment ends the reading
+      {"one|de|eins|de|zwei", "de", "einszwei"},
+      {"|xen|odd", "en", "odd"},  // the code contains "en"
+      {"|only", "de", "only"},    // no code
+      {"|only", "", "only"},
+      {"|ab", "de", ""},
+      {"|", "de", ""},
+      {"|0\xC3\xA4|x", "en", "x"},  // "0ä|" counts as a code of three characters
+      {"one|de|\xFF\xC3", "de", "\xFF\xC3"}};
   for (const Case& entry : cases) {
     EXPECT_EQ(LangText(entry.text, entry.lang), entry.expected) << entry.text << " " << entry.lang;
   }

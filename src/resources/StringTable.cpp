@@ -9,7 +9,10 @@ namespace ZAFHartLib {
 namespace {
 
 constexpr auto kTable = std::to_array<StringResource>({
-    {idStrAbort, "Process Aborted|de|Vorgang abgebrochen|fr|Processus abandonné"},
+    {idStrAbort,
+     "Process Aborted|de|Vorgang abgebrochen|fr|Processus abandonné|it|Processo "
+     "terminato|es|Proceso "
+     "anulado"},
 
     {idErrVarNameNotDefined, "Variable \"%{s}\" not defined!"},
     {idErrWrongContext, "Wrong context!"},
