@@ -1,6 +1,7 @@
 #include <benchmark/benchmark.h>
 #include <malloc.h>
 
+#include <memory>
 #include <string>
 #include <unordered_map>
 
@@ -16,12 +17,16 @@ constexpr std::size_t kVariables = 1000;
 
 // --- look-ups ---
 
-// What a current variable costs at least: a hash map by name, and a copy of what it holds.
+// What a current variable costs at least: a hash map by name, and a copy of its own of what a
+// variable holds, as plain members.
 struct PlainRecord {
   std::string name;
+  std::string label;
+  std::string help;
   std::string unit;
   std::string error;
   double value = 0;
+  double defaultValue = 0;
   int flags = 0;
 };
 
@@ -30,12 +35,12 @@ void Floor_MapLookupAndCopy(benchmark::State& state) {
   std::vector<std::string> names;
   for (std::size_t i = 0; i < kVariables; ++i) {
     names.push_back(bench::VariableName(i));
-    records[names.back()] = {names.back(), "degrees Celsius", "", 1.5, 0};
+    records[names.back()] = {names.back(), "Variable|de|Variable", "", "", "", 1.5, 1.5, 0};
   }
   std::size_t i = 0;
   for (auto _ : state) {
-    PlainRecord copy = records.find(names[i++ % kVariables])->second;
-    benchmark::DoNotOptimize(copy);
+    benchmark::DoNotOptimize(
+        std::make_shared<PlainRecord>(records.find(names[i++ % kVariables])->second));
   }
 }
 BENCHMARK(Floor_MapLookupAndCopy);
