@@ -182,8 +182,7 @@ class CHARTKernel : public platform::Object,
   void Compute(const Getter<View>& getter, Guard& guard, std::shared_ptr<View>& object);
   template <typename View>
   std::shared_ptr<View> ComputedBy(const std::shared_ptr<IDDDataModel>& model,
-                                     const Getter<View>& getter,
-                                     const std::shared_ptr<View>& object);
+                                   const Getter<View>& getter, const std::shared_ptr<View>& object);
   void AfterLookUp(DDObject&) {}
   void AfterLookUp(Menu& menu) { ApplyAccessRestrictions(menu); }
   void AfterComputing(DDObject&) {}

@@ -19,7 +19,7 @@ struct CHARTKernel::Getter {
   const char* operation;
   const char* word;
   std::shared_ptr<View> (IDDDataModel::*compute)(IDDKernel&, IDDComponents&, const std::string&,
-                                                   std::shared_ptr<View>);
+                                                 std::shared_ptr<View>);
 };
 
 namespace {
@@ -56,8 +56,7 @@ Definition InternalVariable(std::string_view name) {
 }  // namespace
 
 template <typename Guard, typename View>
-std::shared_ptr<View> CHARTKernel::Get(const Getter<View>& getter,
-                                         const Definition& definition) {
+std::shared_ptr<View> CHARTKernel::Get(const Getter<View>& getter, const Definition& definition) {
   KernelOperation operation(*this, getter.operation, {{trace_tag::kDef, definition}});
   operation.Reads(definition, ReadSort::Attributes);
   auto object = Stored<View>(definition, getter.operation);
@@ -81,8 +80,7 @@ std::shared_ptr<View> CHARTKernel::Get(const Getter<View>& getter,
 }
 
 template <typename Guard, typename View>
-void CHARTKernel::Compute(const Getter<View>& getter, Guard& guard,
-                          std::shared_ptr<View>& object) {
+void CHARTKernel::Compute(const Getter<View>& getter, Guard& guard, std::shared_ptr<View>& object) {
   const Definition definition = object->ObjectDefinition();
   DependencyFrame frame(innermostFrame_, TrackingDatabase(), definition);
   {
@@ -105,8 +103,8 @@ void CHARTKernel::Compute(const Getter<View>& getter, Guard& guard,
 
 template <typename View>
 std::shared_ptr<View> CHARTKernel::ComputedBy(const std::shared_ptr<IDDDataModel>& model,
-                                                const Getter<View>& getter,
-                                                const std::shared_ptr<View>& object) {
+                                              const Getter<View>& getter,
+                                              const std::shared_ptr<View>& object) {
   if (!model) {
     throw Failure(ErrorNumber::ObjectNotSet, getter.operation,
                   "The kernel has no data model; InitializeDB creates it.");

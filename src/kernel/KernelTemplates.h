@@ -38,7 +38,7 @@ std::shared_ptr<View> CHARTKernel::Find(const Definition& definition) const {
 
 template <typename View>
 std::shared_ptr<View> CHARTKernel::Stored(const Definition& definition,
-                                            const char* operation) const {
+                                          const char* operation) const {
   auto object = Find<View>(definition);
   if (!object) RaiseUnknown(definition, View::kKind, operation);
   return object;
