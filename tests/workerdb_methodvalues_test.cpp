@@ -88,6 +88,9 @@ TEST_F(WorkerDbDefaults, ComeFromTheIniFileBesideTheComponentFile) {
                "Span.TYPE=5\nSpan.Value=100\nburst_mode.TYPE=2\nburst_mode.Value=1\n"
                "later.TYPE=5\nlater.Value=7\n");
   for (const char* name : {"span", "burst_mode", "BURST_MODE_SELECT"}) AddVariable(name);
+  const auto initial = Read("span")->Copy();  // a default that the data model has set as the value
+  initial->SetValue(3.0);
+  database->WriteObject(initial);
   EXPECT_TRUE(Load());
   EXPECT_EQ(database->Invoke("dynavailtime", {}), Variant(20));
   EXPECT_EQ(Read("span")->Value(), Variant(100.0));

@@ -66,6 +66,7 @@ void CDDWorkerDB::SetDefaultsOfVariables() {
     if (!loaded) return;
     Alter(stored, [&](Variable& variable) {
       variable.SetDefaultValue(*loaded);
+      if (!variable.Available()) variable.SetValue(*loaded);  // not what the device has given
       MakeAvailable(variable, true);
     });
   });
