@@ -148,8 +148,12 @@ class CHARTKernel : public platform::Object,
   enum class Binding : bool { Synchronous, Asynchronous };
   enum class MenuReads : bool { No, Yes };
   enum class PreEdit : bool { No, Yes };
-  // How a relation's evaluation left its specifier: known to stand, or to be computed again.
-  enum class Specifier : bool { Open, Settled };
+  // How a relation's evaluation left it: the variables that it answers to, and whether they stand
+  // until its attributes go stale.
+  struct Evaluation {
+    std::vector<ZAFHartTypes::TextKey> triggers;
+    bool settled = true;
+  };
   using OptimizedSearch = std::shared_ptr<CommandRef> (ICommandOptimization::*)(IDDComponents&,
                                                                                 const Definition&);
   using EditItemList = ZAFHartTypes::EditDisplayItems& (EditDisplay::*)();
@@ -246,12 +250,12 @@ class CHARTKernel : public platform::Object,
   // --- Relations.cpp ---
   void EvaluateRelation(std::size_t position, const Definition& relation, const Definition& context,
                         const CDDWorkerDB* tracking);
-  Specifier EvaluateRefresh(const Definition& relation, const Definition& context);
-  Specifier EvaluateUnit(const Definition& relation, const Definition& context);
+  Evaluation EvaluateRefresh(const Definition& relation, const Definition& context);
+  Evaluation EvaluateUnit(const Definition& relation, const Definition& context);
   void ApplyUnit(const ZAFHartTypes::UnitRelation& relation, const Definition& remembered,
                  const Definition& context);
   template <typename Relation, typename ComputeOperation>
-  Specifier ComputeSpecifier(std::shared_ptr<Relation>& relation, ComputeOperation compute);
+  bool ComputeSpecifier(std::shared_ptr<Relation>& relation, ComputeOperation compute);
   void KeepPending(const Definition& relation, const Definition& context);
   std::vector<Definition> TakePending(const Definition& relation);
 

@@ -39,6 +39,12 @@ class SpecifierMark {
   Definition relation_;
 };
 
+std::vector<TextKey> KeysOf(const RelationItemList& items) {
+  std::vector<TextKey> keys;
+  for (const Definition& item : items) keys.push_back(item.Key());
+  return keys;
+}
+
 }  // namespace
 
 void CHARTKernel::ExecuteRelations(const Definition& variable) {
@@ -61,43 +67,37 @@ void CHARTKernel::ExecuteRelations(const Definition& variable) {
 
 void CHARTKernel::EvaluateRelation(std::size_t position, const Definition& relation,
                                    const Definition& context, const CDDWorkerDB* tracking) {
-  Specifier specifier = Specifier::Settled;
-  std::vector<TextKey> triggers;
+  Evaluation evaluation;
   if (relation.Kind() == ObjectKind::RefreshRelation) {
-    specifier = EvaluateRefresh(relation, context);
-    if (!tracking) return;
-    const auto view = Stored<RefreshRelation>(relation, kRefresh);
-    for (const Definition& trigger : view->TriggerItems()) triggers.push_back(trigger.Key());
+    evaluation = EvaluateRefresh(relation, context);
   } else if (relation.Kind() == ObjectKind::UnitRelation) {
-    specifier = EvaluateUnit(relation, context);
-    if (!tracking) return;
-    triggers.push_back(Stored<UnitRelation>(relation, kUnit)->UnitVariable().Key());
+    evaluation = EvaluateUnit(relation, context);
   }
   if (!tracking) return;
-  const bool settled = specifier == Specifier::Settled && !tracking->HasMissingDependency(relation);
-  relationIndex_->Post(position, std::move(triggers), {relation.Key()}, settled);
+  const bool settled = evaluation.settled && !tracking->HasMissingDependency(relation);
+  relationIndex_->Post(position, std::move(evaluation.triggers), {relation.Key()}, settled);
 }
 
 void CHARTKernel::ExecuteRefresh(const Definition& relation, const Definition& context) {
   EvaluateRefresh(relation, context);
 }
 
-CHARTKernel::Specifier CHARTKernel::EvaluateRefresh(const Definition& relation,
-                                                    const Definition& context) {
+CHARTKernel::Evaluation CHARTKernel::EvaluateRefresh(const Definition& relation,
+                                                     const Definition& context) {
   KernelOperation operation(*this, kRefresh,
                             {{trace_tag::kDef, relation}, {trace_tag::kContext, context}});
   if (Database()->IsRefreshInRecursion(relation)) {
     KeepPending(relation, context);
     operation.Release(kReEntered);
-    return Specifier::Open;
+    return {{}, false};
   }
   auto view = Stored<RefreshRelation>(relation, kRefresh);
-  Specifier specifier = Specifier::Settled;
+  bool settled = true;
   {
     SpecifierMark mark(Database(), &IDDWorkerDB::SetRefreshInRecursion, relation);
     if (!view->AttributesAvailable()) {
-      specifier = ComputeSpecifier(view, &IDDDataModel::ComputeRefreshSpecifier);
-      view->SetAttributesAvailable(specifier == Specifier::Settled);
+      settled = ComputeSpecifier(view, &IDDDataModel::ComputeRefreshSpecifier);
+      view->SetAttributesAvailable(settled);
       Store(view);
     }
   }
@@ -116,15 +116,15 @@ CHARTKernel::Specifier CHARTKernel::EvaluateRefresh(const Definition& relation,
   }
   TakePending(relation);
   operation.Release(kDone);
-  return specifier;
+  return {KeysOf(view->TriggerItems()), settled};
 }
 
 void CHARTKernel::ExecuteUnit(const Definition& relation, const Definition& context) {
   EvaluateUnit(relation, context);
 }
 
-CHARTKernel::Specifier CHARTKernel::EvaluateUnit(const Definition& relation,
-                                                 const Definition& context) {
+CHARTKernel::Evaluation CHARTKernel::EvaluateUnit(const Definition& relation,
+                                                  const Definition& context) {
   using Input = TraceScope::Input;
   const Input def{trace_tag::kDef, relation};
   const Input given{trace_tag::kContext, context};
@@ -133,15 +133,15 @@ CHARTKernel::Specifier CHARTKernel::EvaluateUnit(const Definition& relation,
   if (Database()->IsUnitInRecursion(relation)) {
     KeepPending(relation, context);
     operation.Release(kReEntered);
-    return Specifier::Open;
+    return {{}, false};
   }
   auto view = Stored<UnitRelation>(relation, kUnit);
   const Definition remembered = view->UnitVariable();
-  Specifier specifier = Specifier::Settled;
+  bool settled = true;
   {
     SpecifierMark mark(Database(), &IDDWorkerDB::SetUnitInRecursion, relation);
     if (!view->AttributesAvailable()) {
-      specifier = ComputeSpecifier(view, &IDDDataModel::ComputeUnitSpecifier);
+      settled = ComputeSpecifier(view, &IDDDataModel::ComputeUnitSpecifier);
     }
   }
   ApplyUnit(*view, remembered, context);
@@ -150,7 +150,7 @@ CHARTKernel::Specifier CHARTKernel::EvaluateUnit(const Definition& relation,
   view->SetAttributesAvailable(false);
   Store(view);
   operation.Release(kDone);
-  return specifier;
+  return {{view->UnitVariable().Key()}, settled};
 }
 
 void CHARTKernel::ApplyUnit(const UnitRelation& relation, const Definition& remembered,
@@ -177,9 +177,9 @@ void CHARTKernel::ApplyUnit(const UnitRelation& relation, const Definition& reme
   }
 }
 
+// False when the result is out of date as it is finished.
 template <typename Relation, typename ComputeOperation>
-CHARTKernel::Specifier CHARTKernel::ComputeSpecifier(std::shared_ptr<Relation>& relation,
-                                                     ComputeOperation compute) {
+bool CHARTKernel::ComputeSpecifier(std::shared_ptr<Relation>& relation, ComputeOperation compute) {
   const Definition definition = relation->ObjectDefinition();
   DependencyFrame frame(innermostFrame_, TrackingDatabase(), definition);
   ScopedValue noting(context_.frame, frame.IsNoting() ? &frame : nullptr);
@@ -192,7 +192,7 @@ CHARTKernel::Specifier CHARTKernel::ComputeSpecifier(std::shared_ptr<Relation>& 
     if (deviceModel_) computedBy(*deviceModel_);
   }
   computedBy(*internalModel_);
-  return frame.IsOutdated() ? Specifier::Open : Specifier::Settled;
+  return !frame.IsOutdated();
 }
 
 void CHARTKernel::KeepPending(const Definition& relation, const Definition& context) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <functional>
 #include <map>
 #include <string>
@@ -131,16 +132,12 @@ class FakeDataModel : public platform::Object, public IDDDataModel {
  private:
   void Store(IDDComponents& components, DefinitionList& commands, DefinitionList& relations,
              std::initializer_list<ObjectKind> kinds) {
-    for (const ObjectKind kind : kinds) {
-      for (const auto& object : objects) {
-        if (object->Kind() != kind) continue;
-        components.DDWorkerDB()->AddObject(object);
-        if (kind == ObjectKind::Command) commands.Add(object->ObjectDefinition());
-        if (kind == ObjectKind::RefreshRelation || kind == ObjectKind::UnitRelation ||
-            kind == ObjectKind::WriteAsOne) {
-          relations.Add(object->ObjectDefinition());
-        }
-      }
+    for (const auto& object : objects) {
+      const ObjectKind kind = object->Kind();
+      if (std::find(kinds.begin(), kinds.end(), kind) == kinds.end()) continue;
+      components.DDWorkerDB()->AddObject(object);
+      if (kind == ObjectKind::Command) commands.Add(object->ObjectDefinition());
+      if (kinds.size() > 1) relations.Add(object->ObjectDefinition());
     }
   }
   template <typename T>
