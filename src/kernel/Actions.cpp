@@ -30,6 +30,7 @@ void CHARTKernel::RunItemActions(const char* name, ActionList list, DataItemList
   for (const DataItem& item : items) {
     const auto variable = item.Variable();
     if (!item.IsVariable() || item.IsInfo() || !variable) continue;
+    if (variable->Actions(list).IsEmpty() && !operation.ShowsLevel()) continue;
     ExecuteActions(variable->Actions(list), variable);
   }
   operation.Release(kDone);
