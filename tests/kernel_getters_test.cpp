@@ -69,6 +69,11 @@ TEST_F(KernelGetters, NameTheItemAndTheOperationWhenItIsUnknownOrOfAnotherKind) 
             "IDDKernel_GetVariable: The data set has no VARIABLE \"nope\".");
   EXPECT_EQ(failure([&] { kernel->GetMenu(Def("a", ObjectKind::Menu)); }),
             "IDDKernel_GetMenu: The data set has no MENU \"a\".");
+  model->OnCompute<Variable>("a", [](IDDKernel& k, Variable&) { k.ReadVariable(Var("gone")); });
+  EXPECT_EQ(
+      failure([&] { kernel->GetVariable(Var("a")); }),
+      "IDDKernel_GetVariable: The data set has no VARIABLE \"gone\", which the computation of "
+      "\"a\" asks for.");
 }
 
 TEST_F(KernelGetters, TolerateOneReEntryOfAVariableAndReportTheNext) {

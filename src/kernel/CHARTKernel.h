@@ -20,7 +20,6 @@ class KernelOperation;
 class PostingIndex;
 class TraceScope;
 struct Execution;
-struct ReplyBytes;
 struct ResponseVerdict;
 enum class SearchKind : bool;
 
@@ -164,6 +163,7 @@ class CHARTKernel : public platform::Object,
   std::shared_ptr<ZAFHartTypes::IDDCommWrapper> Comm() const { return model_.Comm(); }
   // The worker database while it tracks dependencies, nothing otherwise.
   std::shared_ptr<CDDWorkerDB> TrackingDatabase();
+  void Unhook();
   void AttributesStale(const Definition& object);
   void RunUnitRelations();
   // The object to work with; nothing for an unknown name or another kind.
@@ -172,8 +172,8 @@ class CHARTKernel : public platform::Object,
   // The same, but ObjectNotSet, naming the item and the operation.
   template <typename View>
   std::shared_ptr<View> Stored(const Definition& definition, const char* operation) const;
-  [[noreturn]] static void RaiseUnknown(const Definition& definition, ZAFHartTypes::ObjectKind kind,
-                                        const char* operation);
+  [[noreturn]] void RaiseUnknown(const Definition& definition, ZAFHartTypes::ObjectKind kind,
+                                 const char* operation) const;
   void Store(const std::shared_ptr<DDObject>& object) const;
   void Show(const std::shared_ptr<DDObject>& object) const;
   // Reports an object error; the user may be asked meanwhile.
@@ -204,7 +204,6 @@ class CHARTKernel : public platform::Object,
 
   // --- ReadVariable.cpp ---
   static bool CanBeRead(const Variable& variable);
-  static bool NeedsDeviceRead(const Variable& variable);
   void TakeSubstitute(const std::shared_ptr<Variable>& variable) const;
   void BringUnit(const std::shared_ptr<Variable>& variable);
   void MarkUnreadable(const std::shared_ptr<Variable>& variable) const;
@@ -236,10 +235,8 @@ class CHARTKernel : public platform::Object,
   void BindRest(DataItemList& items) const;
   void Complete(Execution& execution);
   void StoreWritten(Execution& execution) const;
-  void SetReplyUnits(DataItemList& reply) const;
   void StoreRead(const Execution& execution) const;
   void RefreshReply(DataItemList& reply);
-  void PutStatusBytes(Transaction& transaction, ReplyBytes bytes) const;
 
   // --- ResponseEvaluation.cpp, Actions.cpp ---
   void EvaluateResponse(const Execution& execution);
@@ -262,10 +259,8 @@ class CHARTKernel : public platform::Object,
   // --- Editing.cpp, WriteAsOne.cpp ---
   bool BeginsEdit(const Definition& variable);
   void EnterField(const std::shared_ptr<Variable>& field, PreEdit preEdit);
-  Variant EditedValueOf(const std::shared_ptr<Variable>& field) const;
   void TakeEditedValue(const std::shared_ptr<Variable>& field, const Variant& value);
   void EndEdit(const std::shared_ptr<Variable>& field);
-  static bool IsMember(const WriteAsOne& group, const Definition& variable);
   void EnterMember(std::shared_ptr<Variable>& variable);
   void LeaveMember(std::shared_ptr<Variable>& variable);
   void CheckComplete(WriteAsOne& group);
@@ -282,7 +277,6 @@ class CHARTKernel : public platform::Object,
   void ExecuteEditDisplayItem(const std::shared_ptr<EditDisplay>& field, bool isEntered);
   bool PrepareItems(const std::shared_ptr<EditDisplay>& display, EditItemList list,
                     std::initializer_list<ZAFHartTypes::ObjectKind> allowed);
-  void EndGroupEdit(WriteAsOne& group, const std::shared_ptr<DDObject>& object);
   std::shared_ptr<DDObject> EntryOf(const Definition& item);
 
   ZAFHartTypes::ModelReference model_;

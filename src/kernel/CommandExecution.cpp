@@ -29,6 +29,27 @@ bool SameValue(const Variant& a, const Variant& b) {
   return a == b || (a.IsNotFinite() && b.IsNotFinite());
 }
 
+// A variable whose unit came in the same reply has that unit.
+void SetReplyUnits(DataItemList& reply) {
+  for (DataItem& item : reply) {
+    if (!item.IsVariable() || !item.Variable()->UnitSource()) continue;
+    const DataItem* unit = FindItem(reply, item.Variable()->UnitSource());
+    if (unit) item.Variable()->SetUnitText(DisplayText(*unit->Variable()));
+  }
+}
+
+void PutStatusBytes(IDDWorkerDB& database, Transaction& transaction, ReplyBytes bytes) {
+  const std::uint8_t values[] = {bytes.first, bytes.second};
+  for (std::size_t position = 1; position <= std::size(values); ++position) {
+    if (position > transaction.Reply().Count()) return;
+    DataItem& item = transaction.Reply().Item(position);
+    if (item.IsVariable() && !item.Variable()) {
+      item.SetVariable(ViewOf<Variable>(database.ReadObject(item.VariableDefinition())));
+    }
+    item.SetValue(values[position - 1]);
+  }
+}
+
 }  // namespace
 
 void CHARTKernel::ExecuteCommand(const std::shared_ptr<Command>& command,
@@ -52,7 +73,7 @@ void CHARTKernel::ExecuteCommand(const std::shared_ptr<Command>& command,
   const ReplyBytes bytes =
       hadNoReply ? ReplyBytes{kNoReplyByte, 0} : ReplyBytesOf(*execution.transaction);
   Complete(execution);
-  PutStatusBytes(*command->Transactions().Item(transactionNumber), bytes);
+  PutStatusBytes(*Database(), *command->Transactions().Item(transactionNumber), bytes);
   const std::string& name = command->Definition().Name();
   operation.Progress(1, [&] { return "COMMAND " + name + " completed"; });
   operation.Progress(2, [&] {
@@ -201,14 +222,6 @@ void CHARTKernel::StoreWritten(Execution& execution) const {
   }
 }
 
-void CHARTKernel::SetReplyUnits(DataItemList& reply) const {
-  for (DataItem& item : reply) {
-    if (!item.IsVariable() || !item.Variable()->UnitSource()) continue;
-    const DataItem* unit = FindItem(reply, item.Variable()->UnitSource());
-    if (unit) item.Variable()->SetUnitText(DisplayText(*unit->Variable()));
-  }
-}
-
 // A pending local change is not overwritten by the value read.
 void CHARTKernel::StoreRead(const Execution& execution) const {
   for (const DataItem& item : execution.transaction->Reply()) {
@@ -228,18 +241,6 @@ void CHARTKernel::RefreshReply(DataItemList& reply) {
     Database()->SetVariableAvailable(definition, item.Variable()->Available());
     item.SetVariable(GetVariable(definition));
     Show(item.Variable());
-  }
-}
-
-void CHARTKernel::PutStatusBytes(Transaction& transaction, ReplyBytes bytes) const {
-  const std::uint8_t values[] = {bytes.first, bytes.second};
-  for (std::size_t position = 1; position <= std::size(values); ++position) {
-    if (position > transaction.Reply().Count()) return;
-    DataItem& item = transaction.Reply().Item(position);
-    if (item.IsVariable() && !item.Variable()) {
-      item.SetVariable(Find<Variable>(item.VariableDefinition()));
-    }
-    item.SetValue(values[position - 1]);
   }
 }
 

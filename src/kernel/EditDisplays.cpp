@@ -84,24 +84,17 @@ void CHARTKernel::ExecuteEditDisplay(const std::shared_ptr<EditDisplay>& display
     if (isEntered) {
       EnterField(field, PreEdit::Yes);
     } else {
-      const Variant value = EditedValueOf(field);
+      const Variant value = Gui()->GetObjectValue(field);
       if (!value.IsNull()) TakeEditedValue(field, value);
       EndEdit(field);
     }
   } else if (item.Kind() == ObjectKind::WriteAsOne) {
     const auto group = Stored<WriteAsOne>(item, kOperation);
-    if (!isEntered) EndGroupEdit(*group, object);
+    if (!isEntered && group->IsComplete()) group->SetIsEditing(false);
+    if (!isEntered && !group->IsComplete()) Report(object, ItemIndex::NotAllChecked);
     Store(group);
   }
   operation.Release(kDone);
-}
-
-void CHARTKernel::EndGroupEdit(WriteAsOne& group, const std::shared_ptr<DDObject>& object) {
-  if (group.IsComplete()) {
-    group.SetIsEditing(false);
-  } else {
-    Report(object, ItemIndex::NotAllChecked);
-  }
 }
 
 }  // namespace ZAFHartLib

@@ -22,11 +22,6 @@ void CHARTKernel::EnterField(const std::shared_ptr<Variable>& field, PreEdit pre
   if (preEdit == PreEdit::Yes) ExecuteActions(variable->PreEditActions(), field);
 }
 
-// Null when the field holds no edit.
-Variant CHARTKernel::EditedValueOf(const std::shared_ptr<Variable>& field) const {
-  return Gui()->GetObjectValue(field);
-}
-
 void CHARTKernel::EndEdit(const std::shared_ptr<Variable>& field) {
   ExecuteActions(GetVariable(field->Definition())->PostEditActions(), field);
   ExecuteRelations(field->Definition());
@@ -37,6 +32,7 @@ void CHARTKernel::EndEdit(const std::shared_ptr<Variable>& field) {
 void CHARTKernel::TakeEditedValue(const std::shared_ptr<Variable>& field, const Variant& value) {
   const Definition& definition = field->Definition();
   const auto variable = GetVariable(definition);
+  Database()->SetVariableError(definition, 0, "");
   if (variable->CheckValue(value, true)) {
     field->SetValue(value);
     Database()->WriteValue(definition, value);

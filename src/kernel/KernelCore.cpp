@@ -31,6 +31,10 @@ CHARTKernel::CHARTKernel()
       relationIndex_(std::make_unique<PostingIndex>()) {}
 
 CHARTKernel::~CHARTKernel() {
+  Unhook();
+}
+
+void CHARTKernel::Unhook() {
   if (const auto database = hookedDatabase_.lock()) {
     database->SetInvalidationSink({});
     database->SetReadSink({});
@@ -79,6 +83,7 @@ std::shared_ptr<CDDWorkerDB> CHARTKernel::TrackingDatabase() {
   auto database = std::dynamic_pointer_cast<CDDWorkerDB>(Database());
   if (!database || !database->TrackDependencies()) return nullptr;
   if (hookedDatabase_.lock() != database) {
+    Unhook();
     hookedDatabase_ = database;
     commandIndex_->Reset(commandList_);
     relationIndex_->Reset(relationList_.Count());
@@ -97,10 +102,14 @@ void CHARTKernel::AttributesStale(const Definition& object) {
 }
 
 void CHARTKernel::RaiseUnknown(const Definition& definition, ObjectKind kind,
-                               const char* operation) {
-  throw Failure(
-      ErrorNumber::ObjectNotSet, operation,
-      "The data set has no " + std::string(KindWord(kind)) + " \"" + definition.Name() + "\".");
+                               const char* operation) const {
+  std::string text = "The data set has no ";
+  text.append(KindWord(kind)).append(" \"").append(definition.Name()).append("\"");
+  if (context_.current) {
+    text.append(", which the computation of \"").append(context_.current.Name());
+    text.append("\" asks for");
+  }
+  throw Failure(ErrorNumber::ObjectNotSet, operation, text + ".");
 }
 
 void CHARTKernel::Store(const std::shared_ptr<DDObject>& object) const {

@@ -143,11 +143,11 @@ void CHARTKernel::ExecuteVariableItem(const std::shared_ptr<Variable>& field, bo
 
 void CHARTKernel::LeaveMenuField(const std::shared_ptr<Variable>& field) {
   const Definition& definition = field->Definition();
-  const Variant value = EditedValueOf(field);
+  const Variant value = Gui()->GetObjectValue(field);
   const auto variable = Stored<Variable>(definition, "IDDKernel_ExecuteMenu");
   if (value.IsNull() && !variable->ToBeWritten()) return;
-  Database()->SetVariableError(definition, 0, "");
   if (value.IsNull()) {
+    Database()->SetVariableError(definition, 0, "");
     Database()->WriteValue(definition, variable->Value());
   } else {
     TakeEditedValue(field, value);

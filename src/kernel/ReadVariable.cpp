@@ -19,6 +19,11 @@ constexpr int kDone = 3;
 constexpr const char* kUnreadableText = "impossible to read variable from device";
 constexpr std::int32_t kUnreadableIndex = -1;
 
+// A pending change is not overwritten by a read.
+bool IsWanted(const Variable& variable) {
+  return !variable.Available() && !variable.ToBeWritten();
+}
+
 }  // namespace
 
 std::shared_ptr<Variable> CHARTKernel::ReadVariable(const Definition& definition) {
@@ -33,7 +38,7 @@ std::shared_ptr<Variable> CHARTKernel::ReadVariable(const Definition& definition
   if (!variable->Validity()) {
     Report(variable, ItemIndex::ReadNotValid);
     TakeSubstitute(variable);
-  } else if (NeedsDeviceRead(*variable) && !Comm()->Emulate()) {
+  } else if (CanBeRead(*variable) && IsWanted(*variable) && !Comm()->Emulate()) {
     BringUnit(variable);
     const auto command = FindReadCommand(definition);
     variable = Stored<Variable>(definition, kReadVariable);
@@ -62,10 +67,6 @@ std::shared_ptr<Variable> CHARTKernel::ReadVariable(const Definition& definition
 
 bool CHARTKernel::CanBeRead(const Variable& variable) {
   return !variable.Attributes().IsLibraryHeld() && variable.CheckHandling(AccessMode::Read);
-}
-
-bool CHARTKernel::NeedsDeviceRead(const Variable& variable) {
-  return CanBeRead(variable) && !variable.Available() && !variable.ToBeWritten();
 }
 
 void CHARTKernel::TakeSubstitute(const std::shared_ptr<Variable>& variable) const {
@@ -134,7 +135,7 @@ std::shared_ptr<CommandRef> CHARTKernel::ReadAsync(const Definition& definition,
     operation.Release(kStarted);
     return nullptr;
   }
-  if (NeedsDeviceRead(*variable)) {
+  if (CanBeRead(*variable) && IsWanted(*variable)) {
     BringUnit(variable);
     reference = ChooseAsyncCommand(definition);
     if (!reference) {

@@ -7,6 +7,17 @@ namespace ZAFHartLib {
 
 using namespace ZAFHartTypes;
 
+namespace {
+
+bool IsMember(const WriteAsOne& group, const Definition& variable) {
+  for (const WriteAsOneItem& member : group.Items()) {
+    if (member.definition.IsSameAs(variable)) return true;
+  }
+  return false;
+}
+
+}  // namespace
+
 std::shared_ptr<WriteAsOne> CHARTKernel::StartWriteAsOne(const Definition& definition) {
   constexpr int kDone = 1;
   KernelOperation operation(*this, "IDDKernel_StartWriteAsOne", {{trace_tag::kDef, definition}});
@@ -54,13 +65,6 @@ void CHARTKernel::ExecuteWriteAsOne(std::shared_ptr<WriteAsOne>& group,
   operation.Release(kDone);
 }
 
-bool CHARTKernel::IsMember(const WriteAsOne& group, const Definition& variable) {
-  for (const WriteAsOneItem& member : group.Items()) {
-    if (member.definition.IsSameAs(variable)) return true;
-  }
-  return false;
-}
-
 void CHARTKernel::EnterMember(std::shared_ptr<Variable>& variable) {
   const Definition definition = variable->Definition();
   variable->CopyFrom(*GetVariable(definition));
@@ -74,7 +78,7 @@ void CHARTKernel::EnterMember(std::shared_ptr<Variable>& variable) {
 
 void CHARTKernel::LeaveMember(std::shared_ptr<Variable>& variable) {
   const Definition definition = variable->Definition();
-  const Variant value = EditedValueOf(variable);
+  const Variant value = Gui()->GetObjectValue(variable);
   if (value.IsNull()) return;
   TakeEditedValue(variable, value);
   variable->SetIsChecked(true);
