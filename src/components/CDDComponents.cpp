@@ -24,7 +24,7 @@ CDDComponents::~CDDComponents() {
 }
 
 void CDDComponents::Initialize(bool secureKernel) {
-  const auto self = shared_from_this();
+  const DataSetOperation running(*this);  // a method of the DTM may wait for the user
   terminated_ = false;
   CreateComponents(secureKernel);
   LoadDataModel();
@@ -54,12 +54,14 @@ void CDDComponents::CreateComponents(bool secureKernel) {
 
 void CDDComponents::LoadDataModel() {
   kernel_->InitializeDB(dataModelClass_);
+  RequireRunning();
   database_->SetVariableAvailable({}, false);
   IgnoreFailures([this] {
     const Variant arguments[] = {dataModelClass_};
     std::dynamic_pointer_cast<ILateBound>(database_)->Invoke("InitDefaultData", arguments);
   });
   comm_->Initialize();
+  RequireRunning();
   comm_->SetEmulate(comm_->Emulate());
 }
 
@@ -69,6 +71,12 @@ void CDDComponents::ChooseUploadMenu() {
     if (information_)
       upDownloadMenuName_ = information_->StandardName(StandardName::UploadVariables);
   });
+}
+
+void CDDComponents::RequireRunning() const {
+  if (!terminated_) return;
+  throw Failure(ErrorNumber::ObjectNotSet, "ZAFHartLib.CDDComponents",
+                "The DTM instance was torn down while an operation ran.");
 }
 
 void CDDComponents::PrepareTermination() {

@@ -97,13 +97,14 @@ class CDDComponents : public platform::Object,
   void SetIsSynchronized(bool synchronized) { isSynchronized_ = synchronized; }
 
  private:
-  class Operation;
   friend class DataSetOperation;
 
   CDDComponents();
   void CreateComponents(bool secureKernel);
   void LoadDataModel();
   void ChooseUploadMenu();
+  // Raises ObjectNotSet once the instance has been torn down.
+  void RequireRunning() const;
   void DetachComponents();
   void ReleaseComponents();
 

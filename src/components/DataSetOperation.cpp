@@ -61,10 +61,7 @@ std::shared_ptr<IDDCommWrapper> DataSetOperation::Comm() const {
 }
 
 void DataSetOperation::CheckGoesOn() const {
-  if (components_->terminated_) {
-    throw Failure(ErrorNumber::ObjectNotSet, kSource,
-                  "The DTM instance was torn down while an operation ran.");
-  }
+  components_->RequireRunning();
   if (components_->cancelRequested_) {
     throw Failure(ErrorNumber::Cancelled, kSource, "The operation was cancelled by the user.");
   }

@@ -8,8 +8,9 @@
 
 namespace ZAFHartLib {
 
-// What upload, download and write changes have in common: they keep the instance alive, report
-// progress, notice the user's break and a tear-down, and put back what they set when they fail.
+// A running operation on the whole instance. What upload, download and write changes have in
+// common: they keep the instance alive, report progress, notice the user's break and a tear-down,
+// and put back what they set when they fail.
 class DataSetOperation {
  public:
   explicit DataSetOperation(CDDComponents& components);
@@ -44,9 +45,6 @@ class DataSetOperation {
   // Progress -1, title "".
   void EndProgress() const;
   void MarkSynchronized() const;
-  bool IsReadable(const ZAFHartTypes::Variable& variable) const {
-    return variable.CheckHandling(ZAFHartTypes::AccessMode::Read);
-  }
 
  private:
   std::shared_ptr<CDDComponents> components_;

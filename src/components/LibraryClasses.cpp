@@ -7,7 +7,10 @@
 #include "kernel/CHARTKernel.h"
 #include "linksim/DeviceLink.h"
 #include "linksim/EchoLink.h"
+#include "text/Tools.h"
 #include "trace/CEmptyErrorHandler.h"
+#include "trace/CExternalTraceConnection.h"
+#include "trace/CTraceObj.h"
 #include "workerdb/CDDWorkerDB.h"
 #include "workerdb/CIniCollection.h"
 
@@ -29,6 +32,9 @@ void RegisterLibraryClasses(platform::ComponentClasses& classes) {
   Register<CDDTestCommWrapper>(classes, "ZAFHartLib.CDDTestCommWrapper");
   Register<CFDTDataModel>(classes, "ZAFHartLib.CFDTDataModel");
   Register<CEmptyErrorHandler>(classes, "ZAFHartLib.CEmptyErrorHandler");
+  Register<CTraceObj>(classes, "ZAFHartLib.CTraceObj");
+  Register<CExternalTraceConnection>(classes, "ZAFHartLib.CExternalTraceConnection");
+  Register<Tools>(classes, "ZAFHartLib.Tools");
   Register<CIniCollection>(classes, "ZAFHartLib.CIniCollection");
   Register<HartLinkSim::EchoLink>(classes, "HartLinkSim.EchoLink");
   Register<HartLinkSim::DeviceLink>(classes, "HartLinkSim.DeviceLink");

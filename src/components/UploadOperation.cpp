@@ -17,12 +17,13 @@ void UploadOperation::Run(Definition& menuDefinition) {
   CLockObject lock;
   lock.SetLock(Gui());
   const auto valuesKeep = OwnDatabase()->SuspendExpiry();
-  Load(menu ? VariablesOf(*menu) : AllUploadVariables());
+  const DefinitionList variables = menu ? VariablesOf(*menu) : AllUploadVariables();
+  Load(variables, menu ? menu->Items().Count() : variables.Count());
   EndProgress();
   restore.Done();
 }
 
-void UploadOperation::Load(const DefinitionList& variables) const {
+void UploadOperation::Load(const DefinitionList& variables, std::size_t itemCount) const {
   UpdateLock update(Gui());
   RunMethod("__ZAF__pre_upload");
   Database()->SetVariableToBeWritten({}, false);
@@ -33,7 +34,7 @@ void UploadOperation::Load(const DefinitionList& variables) const {
   std::string longAddress;
   Comm()->GetAddressInformation(pollingAddress, tag, longAddress);
   CheckGoesOn();
-  ReadInPasses(variables);
+  ReadInPasses(variables, itemCount);
   ReadRest(variables);
   update.Release();
   RunMethod("__ZAF__post_upload");
@@ -70,7 +71,7 @@ void UploadOperation::DiscardValues(const DefinitionList& variables) const {
 
 // Reading a variable may make others valid; they are read in the next pass. The passes end with
 // one in which no read made a variable available.
-void UploadOperation::ReadInPasses(const DefinitionList& variables) const {
+void UploadOperation::ReadInPasses(const DefinitionList& variables, std::size_t itemCount) const {
   const auto available = OwnDatabase()->CountMarked(VariableMark::Available, variables);
   bool progressed = true;
   while (progressed) {
@@ -80,7 +81,7 @@ void UploadOperation::ReadInPasses(const DefinitionList& variables) const {
       Kernel()->ReadVariable(definition);
       CheckGoesOn();
       progressed = IsAvailable(definition) || progressed;
-      ShowProgress(available->Count(), variables.Count());
+      ShowProgress(available->Count(), itemCount);
     }
   }
 }

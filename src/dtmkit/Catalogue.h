@@ -67,6 +67,11 @@ class Catalogue {
     if (found == computations.end()) return;
     for (const auto& computation : found->second) computation(context, item);
   }
+  // The item has computations: its attributes depend on values.
+  template <typename Item>
+  bool IsComputed(const Definition& definition) const {
+    return std::get<KindOf<Item>>(kinds_).computations.contains(definition.Key());
+  }
   // nullptr for a method that has no body here.
   const MethodBody* Body(std::string_view method) const;
 

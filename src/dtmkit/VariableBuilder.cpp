@@ -28,8 +28,14 @@ VariableBuilder& VariableBuilder::BitEnumerated(std::int32_t size, Bits items) {
 
 VariableBuilder& VariableBuilder::Index(std::int32_t size, std::string_view array) {
   Typed(TypeCode::Index, size);
-  Prototype().EditTypeInfo().SetIndexedArray(TheCatalogue().Prototype<ItemArray>(array));
-  return *this;
+  const auto prototype = TheCatalogue().Prototype<ItemArray>(array);
+  Prototype().EditTypeInfo().SetIndexedArray(prototype);
+  // An array with conditional elements is the instance's own; others are shared by all instances.
+  return OnCompute([&catalogue = TheCatalogue(), definition = prototype->Definition()](
+                       Context& context, Variable& variable) {
+    if (!catalogue.IsComputed<ItemArray>(definition)) return;
+    variable.EditTypeInfo().SetIndexedArray(context.Kernel().GetArray(definition));
+  });
 }
 
 VariableBuilder& VariableBuilder::Range(Variant minimum, Variant maximum) {
