@@ -51,6 +51,11 @@ TEST_F(KernelReadWrite, AReadDoesNotOverwriteAPendingChangeOfAnotherVariable) {
   kernel->ReadVariable(Var("a"));
   EXPECT_EQ(Value("b"), 77);
   EXPECT_TRUE(Stored("b")->ToBeWritten());
+  database->SetVariableToBeWritten(Var("b"), false);
+  database->SetVariableAvailable(Var("a"), false);
+  comm->whileWaiting = [&] { Set("b", std::int16_t{78}); };
+  kernel->ReadVariable(Var("a"));
+  EXPECT_EQ(Value("b"), 78) << "made while the reply was on its way";
 }
 
 TEST_F(KernelReadWrite, GivesAnInvalidVariableItsSubstitute) {
@@ -211,14 +216,18 @@ TEST_F(KernelReadWrite, TakesAWriteWithoutReplyForACommunicationError) {
 }
 
 TEST_F(KernelReadWrite, RecordsWhatTheResponseSaysUntilTheVariableIsWritten) {
-  model->Add<Command>("unused");
   Start();
-  comm->firstBytes = {0x90, 0};
+  comm->firstBytes = {0x90};
   kernel->ReadVariable(Var("a"));
   EXPECT_EQ(Stored("a")->ErrorIndex(), 0x90);
   EXPECT_TRUE(Stored("a")->ErrorText().starts_with("Framing error"));
   EXPECT_TRUE(Stored("a")->Available()) << "not tried again";
   EXPECT_TRUE(LastError().starts_with("Framing error"));
+  comm->replies = false;
+  kernel->ReadVariable(Var("c"));
+  EXPECT_EQ(Stored("c")->ErrorIndex(), 128);
+  EXPECT_TRUE(Stored("c")->Available());
+  comm->replies = true;
   SetClean("b", std::int16_t{2});
   kernel->WriteVariable(Var("a"), std::int16_t{9});
   EXPECT_EQ(Stored("a")->ErrorText(), "");
@@ -227,15 +236,13 @@ TEST_F(KernelReadWrite, RecordsWhatTheResponseSaysUntilTheVariableIsWritten) {
 
 TEST_F(KernelReadWrite, LetsAnErrorThatTheWrapperRecordedStand) {
   Start();
-  comm->firstBytes = {8};
-  comm->whileWaiting = [&] {
-    comm->whileWaiting = nullptr;
-    database->SetVariableError(Var("b"), 99, "recorded");
-  };
-  kernel->ReadVariable(Var("c"));  // command 0
-  comm->firstBytes = {8};
-  kernel->ReadVariable(Var("a"));
+  comm->firstBytes = {8, 8};
+  kernel->ReadVariable(Var("c"));
   EXPECT_EQ(Stored("c")->ErrorIndex(), 8);
+  comm->recordedError = "recorded";
+  kernel->ReadVariable(Var("a"));
+  EXPECT_EQ(Stored("a")->ErrorIndex(), 99);
+  EXPECT_EQ(Stored("a")->ErrorText(), "recorded");
 }
 
 TEST_F(KernelReadWrite, KeepsTheMarkOfAValueThatIsNewerThanTheOneSent) {
@@ -277,6 +284,24 @@ TEST_F(KernelReadWrite, AReadInAWaitOfTheSameVariableReturnsAtOnce) {
   kernel->ReadVariable(Var("a"));
   EXPECT_FALSE(available);
   EXPECT_THAT(comm->TakeSent(), ElementsAre("3()"));
+}
+
+TEST_F(KernelReadWrite, ATimerInAWaitIsNotHeldBackByTheCycleThatWaits) {
+  bool nested = false;
+  model->OnCompute<Variable>("own", [&](IDDKernel& k, Variable&) {
+    if (std::exchange(nested, true)) {
+      SetClean("b", std::int16_t{2});
+      k.WriteVariable(Var("a"), std::int16_t{9});
+    } else {
+      k.GetVariable(Var("own"));
+    }
+  });
+  Start();
+  nested = false;
+  comm->whileWaiting = [&] { kernel->ReadVariable(Var("c")); };
+  Set("__ZAF__OnlineMode", std::int16_t{1});  // all attributes are stale
+  kernel->GetVariable(Var("own"));
+  EXPECT_THAT(comm->TakeSent(), ElementsAre("6(a=9, b=2)", "0()"));
 }
 
 TEST_F(KernelReadWrite, RunsActionsAroundTheExchangeInOrder) {

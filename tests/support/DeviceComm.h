@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <functional>
 #include <map>
 #include <string>
@@ -38,6 +39,7 @@ class DeviceComm : public StubComm {
   std::map<std::string, Variant> memory;
   std::vector<std::uint8_t> firstBytes;  // of the coming replies, then 0
   bool replies = true;
+  std::string recordedError;           // on every reply variable
   std::function<void()> whileWaiting;  // runs once
   std::optional<ErrorNumber> failure;
   std::vector<std::string> sent;  // "<number>(<request items>)"
@@ -62,8 +64,18 @@ class DeviceComm : public StubComm {
     for (DataItem& item : transaction.Request()) {
       if (item.IsVariable() && !item.IsInfo()) item.Variable()->SetToBeWritten(false);
     }
+    for (DataItem& item : transaction.Reply()) {
+      if (item.IsVariable() && IsSent(transaction.Request(), item)) {
+        item.Variable()->SetToBeWritten(false);
+      }
+    }
     std::size_t position = 0;
     for (DataItem& item : transaction.Reply()) FillReply(item, ++position, first);
+  }
+  static bool IsSent(const DataItemList& request, const DataItem& item) {
+    return std::any_of(request.begin(), request.end(), [&](const DataItem& each) {
+      return each.IsVariable() && each.VariableDefinition().IsSameAs(item.VariableDefinition());
+    });
   }
   void TakeRequest(const DataItemList& request) {
     for (const DataItem& item : request) {
@@ -79,8 +91,8 @@ class DeviceComm : public StubComm {
     if (!item.IsVariable() || item.IsInfo() || item.Variable()->ToBeWritten()) return;
     if (found != memory.end() && first == 0) item.Variable()->SetValue(found->second);
     item.Variable()->SetAvailable(true);
-    item.Variable()->SetErrorIndex(0);
-    item.Variable()->SetErrorText("");
+    item.Variable()->SetErrorIndex(recordedError.empty() ? 0 : 99);
+    item.Variable()->SetErrorText(recordedError);
   }
 };
 
