@@ -88,13 +88,17 @@ class CommTest : public testing::Test {
   CommTest() {
     components->kernel = kernel;
     kernel->SetComponentModel(components);
-    components->Use(database);
     components->comm = comm;
     comm->SetComponentModel(components);
     comm->SetLink(link);
+    NewDatabase();
+    comm->SetAddressInformation(0, "", "26060000AB");
+  }
+  void NewDatabase() {
+    database = std::make_shared<CDDWorkerDB>();
+    components->Use(database);
     Add(MakeVariable("__ZAF__OnlineMode", TypeCode::Enumerated, 2));
     Add(MakeVariable("__ZAF__DTMOnlineState", TypeCode::Enumerated, 4));
-    comm->SetAddressInformation(0, "", "26060000AB");
   }
   StubGui& Gui() { return dynamic_cast<StubGui&>(*components->gui); }
   void Add(const std::shared_ptr<DDObject>& object) { database->AddObject(object); }
@@ -134,7 +138,7 @@ class CommTest : public testing::Test {
   platform::PlatformScope scope{platform};
   std::shared_ptr<StubComponents> components = StubComponents::Create();
   std::shared_ptr<CommKernel> kernel = std::make_shared<CommKernel>();
-  std::shared_ptr<CDDWorkerDB> database = std::make_shared<CDDWorkerDB>();
+  std::shared_ptr<CDDWorkerDB> database;
   std::shared_ptr<ScriptedLink> link = std::make_shared<ScriptedLink>();
   std::shared_ptr<CDDTestCommWrapper> comm = std::make_shared<CDDTestCommWrapper>();
   std::shared_ptr<Transaction> transaction;
