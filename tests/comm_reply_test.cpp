@@ -124,6 +124,8 @@ TEST_F(CommTest, WrittenPendingAndInfoVariables) {
   item.SetIsInfo();
   Execute({item}, {item}, "000041480000");
   EXPECT_TRUE(info->ToBeWritten());
+  info->SetToBeWritten(false);
+  Execute({item}, {item}, "000041480000");
   EXPECT_EQ(info->Value(), Variant(1.0F));
 }
 

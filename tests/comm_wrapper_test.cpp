@@ -39,7 +39,7 @@ struct CommWrapperTest : CommTest {
 
 TEST_F(CommWrapperTest, LocalCompletion) {
   for (const bool byEmulation : {true, false}) {
-    Execute({}, {}, "8810");
+    Execute({}, {BoundItem(pv)}, "8810");
     EXPECT_THAT(comm->LastData(), IsEmpty());
     comm->SetEmulate(byEmulation);
     comm->SetUseHartEmulator(byEmulation);
@@ -47,7 +47,7 @@ TEST_F(CommWrapperTest, LocalCompletion) {
     pv->SetErrorIndex(5);
     pv->SetErrorText("old");
     link->requests.clear();
-    EXPECT_FALSE(Execute({}, {BoundItem(pv)}));
+    EXPECT_FALSE(comm->ExecuteCommand(3, transaction));
     EXPECT_THAT(link->requests, IsEmpty());
     EXPECT_EQ(pv->Value(), Variant(12.5F));
     EXPECT_TRUE(pv->Available());
@@ -157,15 +157,17 @@ TEST_F(AddressTest, TheFirstCommandLearnsTheLongAddress) {
   AddAddressVariables();
   AddIdentity();
   comm->Initialize();
-  link->replies = {"0000FEE606050507010108001234"};
+  link->replies = {"0000", "0000FEE606050507010108001234"};
+  link->onExecute = [&] {  // an action of command 0 that sends a command of its own
+    if (link->requests.size() == 1) comm->ExecuteCommand(9, MakeTransaction({}, {}));
+  };
   EXPECT_TRUE(Execute({}, {}, "0000"));
-  EXPECT_THAT(link->requests, ElementsAre("0:", "3:"));
+  EXPECT_THAT(link->requests, ElementsAre("0:", "9:", "3:"));
   EXPECT_EQ(link->last->LongAddress(), "2606001234");
   EXPECT_EQ(link->last->PollAddress(), 5);
   EXPECT_EQ(link->last->Tag(), "PT 101");
   Execute({}, {});
-  EXPECT_THAT(link->requests, SizeIs(3));
-  EXPECT_THAT(Gui().messages, IsEmpty());
+  EXPECT_THAT(link->requests, SizeIs(4));
 }
 
 TEST_F(AddressTest, ALongAddressThatCannotBeLearnt) {
