@@ -30,6 +30,10 @@ bool IsProjectName(std::string_view project) {
   });
 }
 
+std::string PluginFileName(const std::string& project) {
+  return "lib" + project + ".so";
+}
+
 std::string FolderList(const std::vector<fs::path>& folders) {
   if (folders.empty()) return "the plug-in path is empty";
   std::string text = "the plug-in path is ";
@@ -83,22 +87,30 @@ void ComponentClasses::LoadProject(std::string_view className, const std::string
   if (!IsProjectName(project) || project.size() == className.size()) {
     RaiseCannotCreate(className, R"(the name is not of the form "project.class")");
   }
-  const std::string fileName = "lib" + project + ".so";
+  const fs::path file = FindPlugin(project);
+  if (file.empty()) {
+    RaiseCannotCreate(className, "project " + Quoted(ProjectOf(className)) +
+                                     " is not registered, and there is no plug-in " +
+                                     Quoted(PluginFileName(project)) + " (" +
+                                     FolderList(pluginPath_) + ")");
+  }
+  try {
+    LoadPlugin(file);
+  } catch (const Failure& failure) {
+    RaiseCannotCreate(className, "project " + Quoted(ProjectOf(className)) +
+                                     " is not registered, and " + failure.Description());
+  }
+}
+
+fs::path ComponentClasses::FindPlugin(std::string_view project) const {
+  const std::string key = FoldAscii(project);
+  if (!IsProjectName(key)) return {};
   for (const fs::path& folder : pluginPath_) {
     std::error_code error;
-    const fs::path file = folder / fileName;
-    if (!fs::exists(file, error)) continue;
-    try {
-      LoadPlugin(file);
-      return;
-    } catch (const Failure& failure) {
-      RaiseCannotCreate(className, "project " + Quoted(ProjectOf(className)) +
-                                       " is not registered, and " + failure.Description());
-    }
+    fs::path file = folder / PluginFileName(key);
+    if (fs::exists(file, error)) return file;
   }
-  RaiseCannotCreate(className, "project " + Quoted(ProjectOf(className)) +
-                                   " is not registered, and there is no plug-in " +
-                                   Quoted(fileName) + " (" + FolderList(pluginPath_) + ")");
+  return {};
 }
 
 void ComponentClasses::RaiseUnknownClass(std::string_view className,

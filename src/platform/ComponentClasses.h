@@ -42,6 +42,9 @@ class ComponentClasses {
   void SetPluginPath(std::vector<std::filesystem::path> folders);
   const std::vector<std::filesystem::path>& PluginPath() const { return pluginPath_; }
 
+  // The plug-in file that Create would load for a project; empty when the path holds none.
+  std::filesystem::path FindPlugin(std::string_view project) const;
+
   // Loads one plug-in file and registers its classes; what Create does for an unknown project.
   // Returns the names of its classes. Raises InvalidArgument for a relative path and
   // CannotCreateObject, naming the file, when it cannot be used.

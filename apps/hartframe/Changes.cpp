@@ -1,0 +1,131 @@
+#include "hartframe/Changes.h"
+
+#include "hartframe/Reading.h"
+#include "hartframe/ValueText.h"
+#include "types/Failure.h"
+#include "types/Utf8.h"
+
+namespace hartframe {
+
+namespace {
+
+using ZAFHartTypes::AccessMode;
+using ZAFHartTypes::Definition;
+using ZAFHartTypes::Failure;
+using ZAFHartTypes::Variable;
+using ZAFHartTypes::Variant;
+
+[[noreturn]] void Refuse(const std::string& sentence) {
+  throw CommandFailure(ExitCode::ValueRefused, sentence);
+}
+
+void RequireWritable(Session& session, const Variable& variable) {
+  const std::string& name = variable.Definition().Name();
+  if (variable.Attributes().IsLibraryHeld() ||
+      !session.Kernel().FindWriteCommand(variable.Definition())) {
+    Refuse(session.Say()(Text::NotADeviceVariable, {name}));
+  }
+  if (!variable.CheckHandling(AccessMode::Write)) Refuse(session.Say()(Text::NotWritable, {name}));
+  if (!variable.Validity()) Refuse(session.Say()(Text::NotValidNow, {name}));
+}
+
+Variant AcceptedValue(Session& session, const Variable& variable, const std::string& text) {
+  Variant value;
+  const bool read = ZAFHartTypes::IgnoreFailures([&] { value = ParseValue(text, variable); });
+  if (read && variable.CheckValue(value, true)) return value;
+  const std::string why = ZAFHartTypes::utf8::IsValid(text) ? AllowedText(variable, session.Say())
+                                                            : session.Say()(Text::BrokenText);
+  Refuse(session.Say()(Text::ValueRefused, {variable.Definition().Name(), OneLine(text), why}));
+}
+
+void Apply(Session& session, const Change& change) {
+  const auto variable = session.Variable(change.definition);
+  RequireWritable(session, *variable);
+  const Variant value = AcceptedValue(session, *variable, change.value);
+  session.Database().WriteValue(change.definition, value);
+  // Also when the data set has that value already: it need not be the device's.
+  session.Database().SetVariableToBeWritten(change.definition, true);
+  session.Kernel().ExecuteRelations(change.definition);
+}
+
+}  // namespace
+
+std::vector<Change> ParseChanges(Session& session, const std::vector<std::string>& texts) {
+  std::vector<Change> changes;
+  for (const std::string& text : texts) {
+    const auto equals = text.find('=');
+    if (equals == std::string::npos || equals == 0) {
+      throw CommandFailure(ExitCode::Usage, session.Say()(Text::NotAChange, {OneLine(text)}));
+    }
+    changes.push_back({session.Find(text.substr(0, equals)), text.substr(equals + 1)});
+  }
+  return changes;
+}
+
+std::vector<Change> LoadPending(Session& session) {
+  std::vector<Change> changes;
+  for (const PendingChange& kept : session.Pending().Load()) {
+    try {
+      changes.push_back({session.Find(kept.name), kept.value});
+    } catch (const Failure& failure) {
+      throw CommandFailure(ExitCode::FileBroken, "\"" + session.Pending().Path().string() +
+                                                     "\": " + failure.Description());
+    }
+  }
+  return changes;
+}
+
+bool ReadForChanges(Session& session, const std::vector<Change>& changes) {
+  return session.Run([&] {
+    for (const Change& change : changes) {
+      ReadThoroughly(session, change.definition);
+      if (session.Interrupted()) return;
+    }
+  });
+}
+
+void ApplyChanges(Session& session, const std::vector<Change>& changes) {
+  for (const Change& change : changes) Apply(session, change);
+}
+
+void ApplyPending(Session& session, const std::vector<Change>& changes) {
+  for (const Change& change : changes) {
+    try {
+      Apply(session, change);
+    } catch (const CommandFailure& failure) {
+      session.Tell().Problem(NameOf(failure.Code()), failure.Description());
+    }
+  }
+}
+
+std::vector<Definition> PendingVariables(Session& session) {
+  std::vector<Definition> pending;
+  for (const auto& object : session.Database().NewEnum()) {
+    const auto variable = object->MakeVariable();
+    if (variable && variable->ToBeWritten()) pending.push_back(variable->Definition());
+  }
+  return pending;
+}
+
+void KeepPending(Session& session) {
+  std::vector<VariableRow> rows;
+  std::vector<PendingChange> kept;
+  for (const Definition& definition : PendingVariables(session)) {
+    rows.push_back(session.Row(definition));
+    const Variable& variable = *rows.back().variable;
+    kept.push_back({definition.Name(), StoredText(variable.Value(), variable)});
+  }
+  session.Tell().Pending(rows);
+  session.Pending().Save(kept);
+  if (!kept.empty() && session.Pending().Keeps()) {
+    session.Tell().Note("pendingKept",
+                        session.Say()(Text::PendingKept, {session.Pending().Path().string()}));
+  }
+}
+
+void RequireWriteAccess(const Session& session) {
+  if (session.Settings().userLevel != ZAFHartTypes::UserLevel::Observer) return;
+  throw CommandFailure(ExitCode::NotAllowed, session.Say()(Text::ObserverRefused));
+}
+
+}  // namespace hartframe

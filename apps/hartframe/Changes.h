@@ -1,0 +1,36 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "hartframe/Session.h"
+
+namespace hartframe {
+
+// A change that the user wants, by variable.
+struct Change {
+  ZAFHartTypes::Definition definition;
+  std::string value;  // as typed
+};
+
+// Takes "NAME=VALUE" texts apart. CommandFailure (Usage) for another form or an unknown name.
+std::vector<Change> ParseChanges(Session& session, const std::vector<std::string>& texts);
+// Changes of earlier runs that are still to be written. CommandFailure (FileBroken).
+std::vector<Change> LoadPending(Session& session);
+
+// Reads what the changes concern, so that limits and units are the device's. False after Ctrl-C.
+bool ReadForChanges(Session& session, const std::vector<Change>& changes);
+// Puts the changes into the data set, where they wait to be written. CommandFailure (ValueRefused)
+// for the first one that the DTM does not accept, with what it would.
+void ApplyChanges(Session& session, const std::vector<Change>& changes);
+// The same for changes of earlier runs; one that is not accepted any more is told and left out.
+void ApplyPending(Session& session, const std::vector<Change>& changes);
+
+// Variables that are to be written, in database order.
+std::vector<ZAFHartTypes::Definition> PendingVariables(Session& session);
+// Tells what is still to be written and keeps it for a later run.
+void KeepPending(Session& session);
+// CommandFailure (NotAllowed) for an observer.
+void RequireWriteAccess(const Session& session);
+
+}  // namespace hartframe

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "hartframe/Session.h"
+
+namespace hartframe {
+
+// The commands, one file each. What they cannot do ends in a CommandFailure; what happens to single
+// variables ends in the exit code.
+ExitCode RunUpload(Session& session);
+ExitCode RunDownload(Session& session);
+ExitCode RunWrite(Session& session);
+ExitCode RunRead(Session& session);
+ExitCode RunList(Session& session);
+ExitCode RunWatch(Session& session);
+ExitCode RunInfo(Session& session);
+
+}  // namespace hartframe

@@ -1,0 +1,41 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace hartframe {
+
+// The terminal, or the pipes in its place. Results go to standard output, progress, messages and
+// questions to standard error.
+class Console {
+ public:
+  Console();
+
+  // Somebody can be asked: standard input and standard error are a terminal.
+  bool CanAsk() const { return canAsk_; }
+  bool ShowsBar() const { return errorIsTerminal_; }
+
+  void Out(std::string_view line);
+  void Error(std::string_view line);
+  // Prints a table with its headings; the last column is as wide as it is.
+  void Table(const std::vector<std::string>& headings,
+             const std::vector<std::vector<std::string>>& rows);
+  // Shows how far something is, 0 to 100: a bar that is drawn over on a terminal, a line each
+  // quarter in a pipe. Below 0 ends it.
+  void Progress(const std::string& title, double percent);
+  // The answer without its line end; nothing when there is nobody to ask, at the end of the input
+  // and after Ctrl-C.
+  std::optional<std::string> Ask(std::string_view question);
+
+ private:
+  void EraseBar();
+
+  bool canAsk_;
+  bool errorIsTerminal_;
+  bool barShown_ = false;
+  int lastShown_ = -1;  // percent on a terminal, quarter in a pipe
+};
+
+}  // namespace hartframe

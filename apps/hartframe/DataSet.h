@@ -1,0 +1,30 @@
+#pragma once
+
+#include <span>
+#include <vector>
+
+#include "hartframe/Session.h"
+
+namespace hartframe {
+
+// How loading the data set from the device ended.
+struct Loaded {
+  std::vector<VariableRow> rows;  // variables of the upload menu
+  std::size_t loaded = 0;
+  std::size_t failed = 0;        // read, but not with a value from the device
+  std::size_t notValid = 0;      // not valid in this configuration
+  std::size_t notAttempted = 0;  // left by Ctrl-C
+  ExitCode code = ExitCode::Ok;
+  bool IsComplete() const { return code == ExitCode::Ok; }
+};
+
+// Loads the variables of the DTM's upload menu.
+Loaded LoadDataSet(Session& session);
+// Says how it ended, in sentences.
+void TellLoaded(Session& session, const Loaded& loaded);
+
+// The worst trouble of the rows, and a sentence about each kind there is.
+ExitCode CodeOfTroubles(std::span<const VariableRow> rows);
+void TellTroubles(Session& session, std::span<const VariableRow> rows);
+
+}  // namespace hartframe

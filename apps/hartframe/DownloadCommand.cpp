@@ -1,0 +1,72 @@
+#include <algorithm>
+
+#include "ddobjects/Menu.h"
+#include "hartframe/Changes.h"
+#include "hartframe/Commands.h"
+#include "hartframe/DataSet.h"
+#include "hartframe/WriteWatch.h"
+
+namespace hartframe {
+
+namespace {
+
+using ZAFHartTypes::Definition;
+
+std::vector<Definition> WritableOf(const Loaded& loaded) {
+  std::vector<Definition> writable;
+  for (const VariableRow& row : loaded.rows) {
+    if (row.variable->CheckHandling(ZAFHartTypes::AccessMode::Write))
+      writable.push_back(row.variable->Definition());
+  }
+  return writable;
+}
+
+bool IsChange(const WriteResult& result, const std::vector<Change>& changes) {
+  return std::any_of(changes.begin(), changes.end(), [&](const Change& change) {
+    return change.definition.IsSameAs(result.row.variable->Definition());
+  });
+}
+
+// A whole data set is too long to tell: what was changed, and what did not go as it was meant.
+void TellDownload(Session& session, std::vector<WriteResult> results,
+                  const std::vector<Change>& changes) {
+  const std::size_t total = results.size();
+  const auto written = std::count_if(results.begin(), results.end(), [](const WriteResult& result) {
+    return result.outcome == Outcome::Written || result.outcome == Outcome::Adjusted;
+  });
+  std::erase_if(results, [&](const WriteResult& result) {
+    return result.outcome == Outcome::Written && !IsChange(result, changes);
+  });
+  session.Tell().WriteResults(results);
+  session.Tell().Note(
+      "written", session.Say()(Text::Written, {std::to_string(written), std::to_string(total)}));
+}
+
+}  // namespace
+
+ExitCode RunDownload(Session& session) {
+  RequireWriteAccess(session);
+  const std::vector<Change> pending = LoadPending(session);
+  const std::vector<Change> changes = ParseChanges(session, session.Settings().changes);
+  const Loaded loaded = LoadDataSet(session);
+  TellLoaded(session, loaded);
+  if (!loaded.IsComplete()) {
+    session.Tell().Problem("incomplete", session.Say()(Text::IncompleteDataSet));
+    return loaded.code;
+  }
+  ApplyPending(session, pending);
+  ApplyChanges(session, changes);
+
+  WriteWatch watch(session, WritableOf(loaded));
+  Definition menu;
+  const bool finished = session.Run([&] { session.Components().Download(menu); });
+  const std::vector<WriteResult> results = watch.Results();
+  watch.RestoreUnanswered(results);
+  TellDownload(session, results, changes);
+  KeepPending(session);
+  if (finished) return ExitCodeOf(results);
+  session.Tell().Problem("interrupted", session.Say()(Text::Interrupted));
+  return ExitCode::Interrupted;
+}
+
+}  // namespace hartframe

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <map>
+
+#include "hartframe/Report.h"
+#include "interfaces/IDDErrorHandler.h"
+#include "types/TextKey.h"
+
+namespace hartframe {
+
+// Listens to the errors that the GUI manager routes, and leaves handling them to it.
+class ErrorWatch : public ZAFHartTypes::IDDErrorHandler {
+ public:
+  std::int32_t ObjectError(const std::shared_ptr<ZAFHartTypes::DDObject>& object,
+                           ZAFHartTypes::ItemIndex index) override;
+  std::int32_t ResponseCodeError(const ZAFHartTypes::CommandStatus& status,
+                                 const std::shared_ptr<ZAFHartTypes::CommandRef>& command) override;
+  std::int32_t EvaluationError(const std::string&) override { return 0; }
+
+  // How the write of the variable failed; Trouble::None when it did not.
+  Trouble WriteTrouble(const ZAFHartTypes::Definition& definition) const;
+  void Forget() { writes_.clear(); }
+
+ private:
+  std::map<std::string, Trouble> writes_;  // by folded name
+};
+
+}  // namespace hartframe

@@ -1,0 +1,114 @@
+#include "ddobjects/Menu.h"
+#include "hartframe/Changes.h"
+#include "hartframe/Commands.h"
+#include "hartframe/DataSet.h"
+#include "interfaces/InternalNames.h"
+
+namespace hartframe {
+
+namespace {
+
+using ZAFHartTypes::Command;
+using ZAFHartTypes::Definition;
+using ZAFHartTypes::ObjectKind;
+namespace names = ZAFHartTypes::internal_names;
+
+void TellDtm(Session& session) {
+  const Speech& say = session.Say();
+  const Options& options = session.Settings();
+  auto& components = session.Components();
+  std::string file;
+  if (const auto information = components.KernelInformation()) {
+    ZAFHartTypes::IgnoreFailures([&] { file = information->ComponentFileName(); });
+  }
+  const std::string link = options.link == LinkKind::Echo ? "echo" : options.deviceFile.string();
+  std::vector<Fact> facts{
+      {"class", say(Text::InfoClass), components.DataModelClass()},
+      {"componentFile", say(Text::InfoFile), file},
+      {"plugin", say(Text::InfoPlugin), session.PluginFile().string()},
+      {"variables", say(Text::InfoVariables), std::to_string(session.AllVariables(false).size())},
+      {"commands", say(Text::InfoCommands), std::to_string(session.Kernel().Commands().Count())},
+      {"link", say(Text::InfoLink), link},
+      {"pendingChanges", say(Text::InfoPending), std::to_string(LoadPending(session).size())}};
+  session.Tell().Facts("dtmFacts", say(Text::InfoDtm), facts);
+}
+
+// HART command 0, Read Unique Identifier; nothing when the DTM has none.
+std::shared_ptr<Command> IdentityCommand(Session& session) {
+  for (const Definition& definition : session.Kernel().Commands()) {
+    const auto command = session.Kernel().GetSafeCommand(definition);
+    if (command && command->Number() == 0 && command->Transactions().Count() > 0) return command;
+  }
+  return nullptr;
+}
+
+std::vector<VariableRow> ReadIdentity(Session& session) {
+  std::vector<VariableRow> rows;
+  const auto command = IdentityCommand(session);
+  if (!command) return rows;
+  constexpr std::size_t kFirstData = 3;  // behind response code and device status
+  const auto& reply = command->Transactions().At(1)->Reply();
+  session.Run([&] {
+    for (std::size_t at = kFirstData; at <= reply.Count(); ++at) {
+      const auto& item = reply.Item(at);
+      if (!item.IsVariable() || session.Interrupted()) continue;
+      rows.push_back(
+          MakeRow(session.Kernel().ReadVariable(item.VariableDefinition()), session.Say()));
+    }
+  });
+  return rows;
+}
+
+// The variables that the wrapper answers the address from, in a DTM that has them by these names.
+void ReadAddress(Session& session) {
+  for (const char* name : {"tag", "polling_address"}) {
+    const Definition definition = Definition::Define(name, ObjectKind::Variable);
+    if (session.Database().ReadObject(definition))
+      session.Run([&] { session.Kernel().ReadVariable(definition); });
+  }
+}
+
+ExitCode TellDevice(Session& session) {
+  const Speech& say = session.Say();
+  const std::vector<VariableRow> rows = ReadIdentity(session);
+  const ExitCode code = session.Interrupted() ? ExitCode::Interrupted : CodeOfTroubles(rows);
+  if (code != ExitCode::Ok) {
+    session.Tell().Problem("noIdentity", say(Text::DeviceSilent));
+    TellTroubles(session, rows);
+    return code;
+  }
+  ReadAddress(session);
+  std::int32_t pollingAddress = 0;
+  std::string tag;
+  std::string longAddress;
+  session.Comm().GetAddressInformation(pollingAddress, tag, longAddress);
+  std::vector<Fact> facts{
+      {"tag", say(Text::InfoTag), OneLine(tag)},
+      {"pollingAddress", say(Text::InfoPollingAddress), std::to_string(pollingAddress)},
+      {"longAddress", say(Text::InfoLongAddress), longAddress}};
+  for (const VariableRow& row : rows) facts.push_back({row.name, row.label, row.value});
+  session.Tell().Facts("device", say(Text::InfoDevice), facts);
+  return code;
+}
+
+void TellStates(Session& session) {
+  std::vector<Fact> facts;
+  for (const std::string_view name :
+       {names::kOnlineMode, names::kDTMOnlineState, names::kDataSetState, names::kStorageState,
+        names::kDataSetLockState, names::kFDTUserLevel, names::kLastCommunicationError}) {
+    const VariableRow row = session.Row(Definition::Define(name, ObjectKind::Variable));
+    facts.push_back({row.name, row.label, row.value});
+  }
+  session.Tell().Facts("states", session.Say()(Text::InfoStates), facts);
+}
+
+}  // namespace
+
+ExitCode RunInfo(Session& session) {
+  TellDtm(session);
+  const ExitCode code = TellDevice(session);
+  TellStates(session);
+  return code;
+}
+
+}  // namespace hartframe

@@ -1,0 +1,140 @@
+#include "hartframe/JsonReport.h"
+
+#include "hartframe/ValueText.h"
+#include "types/Failure.h"
+
+namespace hartframe {
+
+namespace {
+
+using Json = nlohmann::ordered_json;
+using ZAFHartTypes::AccessMode;
+using ZAFHartTypes::TypeCode;
+using ZAFHartTypes::Variable;
+using ZAFHartTypes::Variant;
+
+// Broken bytes from a device must not keep the document from being written.
+std::string Dumped(const Json& json, int indent) {
+  return json.dump(indent, ' ', false, Json::error_handler_t::replace);
+}
+
+Json NumberJson(const Variant& value, TypeCode code) {
+  const double number = value.ToDouble();
+  if (value.IsNotFinite()) return nullptr;
+  if (!IsIntegral(code)) return number;
+  // Unsigned values above 2147483647 are held as negative 32-bit integers.
+  const bool wrapped = code != TypeCode::Integer && number < 0;
+  return static_cast<std::int64_t>(wrapped ? number + 4294967296.0 : number);
+}
+
+// Numbers and codes as numbers, dates as yyyy-MM-dd, texts as texts, no value as null.
+Json ValueJson(const Variable& variable) {
+  const Variant& value = variable.Value();
+  const TypeCode code = variable.TypeInfo().TypeCode();
+  Json json;
+  ZAFHartTypes::IgnoreFailures([&] {
+    if (value.IsEmpty() || value.IsNull()) return;
+    if (code == TypeCode::Password) return;  // never shown in clear
+    if (value.IsText()) {
+      json = value.ToText();
+    } else if (code == TypeCode::Date) {
+      json = StoredText(value, variable);
+    } else {
+      json = NumberJson(value, code);
+    }
+  });
+  return json;
+}
+
+Json RowJson(const VariableRow& row) {
+  const Variable& variable = *row.variable;
+  Json json{{"name", row.name},
+            {"label", row.label},
+            {"value", ValueJson(variable)},
+            {"display", row.value},
+            {"unit", row.unit},
+            {"valid", variable.Validity()},
+            {"available", variable.Available()},
+            {"toBeWritten", variable.ToBeWritten()},
+            {"readable", variable.CheckHandling(AccessMode::Read)},
+            {"writable", variable.CheckHandling(AccessMode::Write)},
+            {"dynamic", variable.Attributes().IsDynamic()},
+            {"internal", variable.Attributes().IsLibraryHeld()}};
+  if (variable.ErrorIndex() != 0)
+    json["error"] = {{"index", variable.ErrorIndex()}, {"text", row.error}};
+  return json;
+}
+
+Json RowsJson(std::span<const VariableRow> rows) {
+  Json json = Json::array();
+  for (const VariableRow& row : rows) json.push_back(RowJson(row));
+  return json;
+}
+
+constexpr const char* kOutcomes[] = {"written",     "adjusted", "refused",
+                                     "notAccepted", "noAnswer", "notAttempted"};
+constexpr const char* kCommands[] = {"upload", "download", "write", "read",
+                                     "list",   "watch",    "info",  "probe-plugin"};
+
+}  // namespace
+
+JsonReport::JsonReport(Console& console, const Options& options)
+    : console_(console),
+      document_{{"command", kCommands[static_cast<std::size_t>(options.command)]},
+                {"dtm", options.dtm},
+                {"language", options.language}} {}
+
+void JsonReport::Message(const ZAFHartTypes::UserMessage& message) {
+  document_["messages"].push_back({{"icon", static_cast<int>(message.icon)},
+                                   {"title", message.title},
+                                   {"prompt", message.prompt},
+                                   {"help", message.help}});
+}
+
+void JsonReport::Note(std::string_view code, const std::string& sentence) {
+  document_["notes"].push_back({{"code", code}, {"text", sentence}});
+}
+
+void JsonReport::Problem(std::string_view code, const std::string& sentence) {
+  document_["problems"].push_back({{"code", code}, {"text", sentence}});
+}
+
+void JsonReport::Variables(std::span<const VariableRow> rows) {
+  document_["variables"] = RowsJson(rows);
+}
+
+void JsonReport::Update(const VariableRow& row) {
+  console_.Out(Dumped({{"update", RowJson(row)}}, -1));
+}
+
+void JsonReport::WriteResults(std::span<const WriteResult> results) {
+  Json json = Json::array();
+  for (const WriteResult& result : results) {
+    Json entry{{"variable", RowJson(result.row)},
+               {"outcome", kOutcomes[static_cast<std::size_t>(result.outcome)]},
+               {"meant", result.meant},
+               {"deviceHas", nullptr}};
+    if (!result.deviceHas.empty()) entry["deviceHas"] = result.deviceHas;
+    json.push_back(std::move(entry));
+  }
+  document_["writes"] = std::move(json);
+}
+
+void JsonReport::Pending(std::span<const VariableRow> rows) {
+  document_["pending"] = RowsJson(rows);
+}
+
+void JsonReport::Facts(std::string_view section, const std::string&, std::span<const Fact> facts) {
+  Json& json = document_[std::string(section)];
+  json = Json::object();
+  for (const Fact& fact : facts)
+    json[fact.key] = Json{{"label", fact.label}, {"value", fact.value}};
+}
+
+void JsonReport::Finish(ExitCode code) {
+  document_["result"] = NameOf(code);
+  document_["exitCode"] = static_cast<int>(code);
+  console_.Out(Dumped(document_, 2));
+}
+
+}  // namespace hartframe

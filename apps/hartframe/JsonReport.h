@@ -1,0 +1,33 @@
+#pragma once
+
+#include <nlohmann/json.hpp>
+
+#include "hartframe/Console.h"
+#include "hartframe/Options.h"
+#include "hartframe/Report.h"
+
+namespace hartframe {
+
+// Collects one JSON document and prints it at the end; the updates of watch come as a line of JSON
+// each, before it. Field names are English and stay; texts are in the user's language.
+class JsonReport : public Report {
+ public:
+  JsonReport(Console& console, const Options& options);
+
+  void Message(const ZAFHartTypes::UserMessage& message) override;
+  void Note(std::string_view code, const std::string& sentence) override;
+  void Problem(std::string_view code, const std::string& sentence) override;
+  void Variables(std::span<const VariableRow> rows) override;
+  void Update(const VariableRow& row) override;
+  void WriteResults(std::span<const WriteResult> results) override;
+  void Pending(std::span<const VariableRow> rows) override;
+  void Facts(std::string_view section, const std::string& title,
+             std::span<const Fact> facts) override;
+  void Finish(ExitCode code) override;
+
+ private:
+  Console& console_;
+  nlohmann::ordered_json document_;
+};
+
+}  // namespace hartframe

@@ -1,0 +1,51 @@
+#include "hartframe/MessageControl.h"
+
+#include "hartframe/ValueText.h"
+#include "platform/Platform.h"
+#include "types/Failure.h"
+
+namespace hartframe {
+
+namespace {
+
+using ZAFHartTypes::MessageIcon;
+using ZAFHartTypes::UserMessage;
+using ZAFHartTypes::Variant;
+
+// A message with a time that tells that something takes time, as opposed to one that goes away by
+// itself after that time.
+bool IsPause(const UserMessage& message) {
+  return message.delay > 0 && message.icon == MessageIcon::Information;
+}
+
+void Pause(std::int32_t seconds, const SignalWatch& signals) {
+  platform::Clock& clock = platform::Current().GetClock();
+  const auto end = clock.Now() + std::chrono::seconds(seconds);
+  while (clock.Now() < end && !signals.Interrupted()) {
+    platform::Current().Loop().WaitStep(platform::Milliseconds(20));
+  }
+}
+
+}  // namespace
+
+std::int32_t MessageControl::ShowUserMessage(const UserMessage& message) {
+  report_.Message(message);
+  if (message.input && !AskFor(*message.input)) return ZAFHartTypes::kMessageCancelled;
+  if (IsPause(message)) Pause(message.delay, signals_);
+  return signals_.Interrupted() ? ZAFHartTypes::kMessageCancelled : 0;
+}
+
+bool MessageControl::AskFor(ZAFHartTypes::Variable& variable) {
+  while (const auto answer = console_.Ask(speech_(Text::EnterValue))) {
+    Variant value;
+    const bool read = ZAFHartTypes::IgnoreFailures([&] { value = ParseValue(*answer, variable); });
+    if (read && variable.CheckValue(value, true)) {
+      variable.SetValue(value);
+      return true;
+    }
+    console_.Error(AllowedText(variable, speech_));
+  }
+  return false;
+}
+
+}  // namespace hartframe

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "hartframe/Console.h"
+#include "hartframe/Control.h"
+#include "hartframe/Report.h"
+#include "hartframe/SignalWatch.h"
+#include "hartframe/Speech.h"
+
+namespace hartframe {
+
+// Shows the DTM's messages and asks for the values that they want. Nothing stays on display, so
+// every result is 0, or kMessageCancelled when the user has broken off or nobody can be asked.
+class MessageControl : public Control {
+ public:
+  MessageControl(Report& report, Console& console, const Speech& speech, SignalWatch& signals)
+      : report_(report), console_(console), speech_(speech), signals_(signals) {}
+
+  std::int32_t ShowUserMessage(const ZAFHartTypes::UserMessage& message) override;
+
+ private:
+  // Puts what the user types into the variable; false when he gives up.
+  bool AskFor(ZAFHartTypes::Variable& variable);
+
+  Report& report_;
+  Console& console_;
+  const Speech& speech_;
+  SignalWatch& signals_;
+};
+
+}  // namespace hartframe

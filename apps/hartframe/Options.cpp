@@ -1,0 +1,200 @@
+#include "hartframe/Options.h"
+
+#include <CLI/CLI.hpp>
+#include <cstdlib>
+#include <map>
+
+#include "hartframe/ExitCode.h"
+#include "platform/Version.h"
+
+namespace hartframe {
+
+namespace {
+
+namespace fs = std::filesystem;
+using ZAFHartTypes::UserLevel;
+
+const std::vector<std::string> kLanguages{"en", "de", "fr", "it", "es", "kt"};
+
+const std::map<std::string, UserLevel> kUserLevels{{"observer", UserLevel::Observer},
+                                                   {"operator", UserLevel::Operator},
+                                                   {"maintenance", UserLevel::Maintenance},
+                                                   {"engineer", UserLevel::PlanningEngineer}};
+
+const std::map<std::string, LinkKind> kLinks{{"echo", LinkKind::Echo},
+                                             {"device", LinkKind::Device}};
+
+// Folder of the running program; the DTMs that ship with it stand beside it.
+fs::path ProgramFolder() {
+  std::error_code error;
+  const fs::path program = fs::read_symlink("/proc/self/exe", error);
+  return error ? fs::current_path() : program.parent_path();
+}
+
+struct Parsed {
+  Options options;
+  std::optional<LinkKind> link;
+};
+
+void AddDtmOptions(CLI::App& app, Parsed& parsed) {
+  Options& options = parsed.options;
+  app.add_option("--dtm", options.dtm, "DTM to load: the project of its classes, \"Vendor\"")
+      ->type_name("NAME");
+  app.add_option("--dtm-path", options.pluginPath,
+                 "Folder with DTM plug-ins, searched before the program's own (repeatable)")
+      ->type_name("FOLDER")
+      ->allow_extra_args(false);
+  app.add_option("--user-level", options.userLevel,
+                 "Rights of the user; an observer cannot write (default: engineer)")
+      ->transform(CLI::CheckedTransformer(kUserLevels, CLI::ignore_case))
+      ->type_name("observer|operator|maintenance|engineer");
+}
+
+void AddLinkOptions(CLI::App& app, Parsed& parsed) {
+  Options& options = parsed.options;
+  app.add_option("--device", options.deviceFile,
+                 "Memory of the emulated device; changes are kept in it. Changes that could not "
+                 "be written are kept in FILE.pending")
+      ->type_name("FILE");
+  app.add_option("--link", parsed.link,
+                 "echo: the data set answers itself; device: an emulated device with its own "
+                 "memory (default when --device is given)")
+      ->transform(CLI::CheckedTransformer(kLinks, CLI::ignore_case))
+      ->type_name("echo|device");
+  app.add_option("--fault", options.faults, "Fault of the emulated device (repeatable)")
+      ->type_name("FAULT")
+      ->allow_extra_args(false);
+  app.add_option("--latency", options.latencyMilliseconds, "Time that an exchange takes")
+      ->type_name("MS")
+      ->check(CLI::Range(0, 600000));
+}
+
+void AddOutputOptions(CLI::App& app, Parsed& parsed) {
+  Options& options = parsed.options;
+  app.add_option("--lang", options.language, "Language of texts (default: the environment's)")
+      ->type_name("en|de|fr|it|es|kt")
+      ->check(CLI::IsMember(kLanguages));
+  app.add_flag("--json", options.json, "Machine-readable output");
+  app.add_option("--trace", options.trace,
+                 "Print trace lines up to this level to standard error: 1 what ran, 2 with results")
+      ->type_name("LEVEL")
+      ->check(CLI::Range(0, 9));
+  app.add_option("--trace-depth", options.traceDepth,
+                 "Nested operations to trace (default: the trace level)")
+      ->type_name("N")
+      ->check(CLI::Range(1, 1000));
+  app.add_option("--trace-detail", options.traceDetail, "Detail of traced objects (default: 1)")
+      ->type_name("N")
+      ->check(CLI::Range(0, 9));
+}
+
+class CommandAdder {
+ public:
+  CommandAdder(CLI::App& app, Options& options) : app_(app), options_(options) {}
+
+  CLI::App& Add(CommandKind kind, const std::string& name, const std::string& description) {
+    CLI::App& command = *app_.add_subcommand(name, description);
+    command.callback([this, kind] { options_.command = kind; });
+    return command;
+  }
+
+ private:
+  CLI::App& app_;
+  Options& options_;
+};
+
+void AddCommands(CommandAdder& adder, Options& options) {
+  CLI::App& upload = adder.Add(CommandKind::Upload, "upload", "Load the data set from the device");
+  upload.add_flag("--discard", options.discard, "Give up pending changes without asking");
+
+  CLI::App& download = adder.Add(CommandKind::Download, "download",
+                                 "Write the whole data set to the device, with changes if given");
+  download.add_option("changes", options.changes, "Changes to make first")->type_name("NAME=VALUE");
+
+  CLI::App& write = adder.Add(CommandKind::Write, "write",
+                              "Change variables and write them, and what is still pending");
+  write.add_option("changes", options.changes, "Changes to make")->type_name("NAME=VALUE");
+
+  CLI::App& read = adder.Add(CommandKind::Read, "read", "Read variables from the device");
+  read.add_option("names", options.names, "Variables; * and ? stand for other characters")
+      ->required()
+      ->type_name("NAME");
+
+  CLI::App& list = adder.Add(CommandKind::List, "list",
+                             "List the DTM's variables and pending changes, without the device");
+  list.add_option("names", options.names, "Only these; * and ? stand for other characters")
+      ->type_name("NAME");
+  list.add_flag("--pending", options.pendingOnly, "Only those with a change to be written");
+  list.add_flag("--internal", options.internalToo, "The library's own variables as well");
+
+  CLI::App& watch = adder.Add(CommandKind::Watch, "watch", "Show live values until Ctrl-C");
+  watch.add_option("names", options.names, "Variables; * and ? stand for other characters")
+      ->required()
+      ->type_name("NAME");
+  watch.add_option("--count", options.updates, "End after this many updates")
+      ->type_name("N")
+      ->check(CLI::Range(1, 1000000000));
+  watch.add_option("--interval", options.intervalSeconds, "Seconds between updates (default: 1)")
+      ->type_name("S")
+      ->check(CLI::Range(1, 3600));
+
+  adder.Add(CommandKind::Info, "info", "Show the DTM, the device's identity and the states");
+
+  // The program runs itself with this, to see whether a plug-in can be loaded at all.
+  CLI::App& probe = adder.Add(CommandKind::ProbePlugin, "probe-plugin", "");
+  probe.group("");
+  probe.add_option("plugin", options.plugin)->required();
+}
+
+void Complete(Parsed& parsed) {
+  Options& options = parsed.options;
+  for (fs::path& folder : options.pluginPath) folder = fs::absolute(folder);
+  options.pluginPath.push_back((ProgramFolder() / "../lib/dtms").lexically_normal());
+  options.link =
+      parsed.link.value_or(options.deviceFile.empty() ? LinkKind::Echo : LinkKind::Device);
+  if (options.link == LinkKind::Echo && !options.deviceFile.empty()) {
+    throw CLI::ValidationError("--device needs --link device");
+  }
+  if (options.dtm.empty() && options.command != CommandKind::ProbePlugin) {
+    throw CLI::RequiredError("--dtm");
+  }
+  if (options.traceDepth == 0) options.traceDepth = options.trace.value_or(1);
+}
+
+}  // namespace
+
+std::string LanguageFromEnvironment() {
+  for (const char* name : {"LC_ALL", "LC_MESSAGES", "LANG"}) {
+    const char* value = std::getenv(name);
+    if (!value || !*value) continue;
+    const std::string code = std::string(value).substr(0, 2);
+    const bool known =
+        code != "kt" && std::find(kLanguages.begin(), kLanguages.end(), code) != kLanguages.end();
+    return known ? code : "en";
+  }
+  return "en";
+}
+
+Options ParseCommandLine(int argc, char** argv) {
+  Parsed parsed;
+  parsed.options.language = LanguageFromEnvironment();
+  CLI::App app("A frame application for DTMs of HART devices", "hartframe");
+  app.set_version_flag("--version", "hartframe " ZAFHARTLIB_VERSION);
+  app.footer(ExitCodeHelp());
+  app.require_subcommand(1);
+  app.fallthrough();
+  AddDtmOptions(app, parsed);
+  AddLinkOptions(app, parsed);
+  AddOutputOptions(app, parsed);
+  CommandAdder adder(app, parsed.options);
+  AddCommands(adder, parsed.options);
+  try {
+    app.parse(argc, argv);
+    Complete(parsed);
+  } catch (const CLI::ParseError& error) {
+    std::exit(app.exit(error) == 0 ? 0 : static_cast<int>(ExitCode::Usage));
+  }
+  return std::move(parsed.options);
+}
+
+}  // namespace hartframe

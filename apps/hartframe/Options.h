@@ -1,0 +1,52 @@
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "interfaces/Codes.h"
+
+namespace hartframe {
+
+enum class CommandKind { Upload, Download, Write, Read, List, Watch, Info, ProbePlugin };
+enum class LinkKind { Echo, Device };
+
+// What the command line asks for.
+struct Options {
+  CommandKind command = CommandKind::Info;
+
+  std::string dtm;                                // project of the DTM's classes
+  std::vector<std::filesystem::path> pluginPath;  // absolute
+  std::filesystem::path deviceFile;               // empty: none
+  LinkKind link = LinkKind::Echo;
+  std::vector<std::string> faults;
+  int latencyMilliseconds = 0;
+
+  std::string language = "en";
+  bool json = false;
+  ZAFHartTypes::UserLevel userLevel = ZAFHartTypes::UserLevel::PlanningEngineer;
+  bool discard = false;
+
+  std::optional<int> trace;  // highest level of trace lines; nothing: no tracing
+  int traceDepth = 0;        // highest stack level; 0: the same as `trace`
+  int traceDetail = 1;       // level of object descriptions
+
+  std::vector<std::string> names;    // variables; read, list and watch take * and ?
+  std::vector<std::string> changes;  // NAME=VALUE
+  bool pendingOnly = false;
+  bool internalToo = false;
+  int updates = 0;          // of watch; 0: until Ctrl-C
+  int intervalSeconds = 1;  // of watch
+
+  std::filesystem::path plugin;  // to probe
+};
+
+// Reads the command line. Ends the process itself for --help and --version (code 0) and for wrong
+// arguments (ExitCode::Usage, with the reason on standard error).
+Options ParseCommandLine(int argc, char** argv);
+
+// "en", "de", "fr", "it" or "es", as the environment (LC_ALL, LC_MESSAGES, LANG) says.
+std::string LanguageFromEnvironment();
+
+}  // namespace hartframe

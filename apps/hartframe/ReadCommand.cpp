@@ -1,0 +1,26 @@
+#include "hartframe/Commands.h"
+#include "hartframe/DataSet.h"
+#include "hartframe/Reading.h"
+
+namespace hartframe {
+
+ExitCode RunRead(Session& session) {
+  std::vector<VariableRow> rows;
+  const auto definitions = session.FindAll(session.Settings().names, false);
+  const bool finished = session.Run([&] {
+    for (const auto& definition : definitions) {
+      const auto variable = ReadThoroughly(session, definition);
+      if (session.Interrupted()) return;
+      rows.push_back(MakeRow(variable, session.Say()));
+    }
+  });
+  session.Tell().Variables(rows);
+  TellTroubles(session, rows);
+  if (finished) return CodeOfTroubles(rows);
+  session.Tell().Problem(
+      "interrupted",
+      session.Say()(Text::InterruptedLeft, {std::to_string(definitions.size() - rows.size())}));
+  return ExitCode::Interrupted;
+}
+
+}  // namespace hartframe

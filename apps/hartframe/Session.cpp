@@ -1,0 +1,187 @@
+#include "hartframe/Session.h"
+
+#include <unistd.h>
+
+#include <cstdlib>
+
+#include "components/LibraryClasses.h"
+#include "gui/CDDDTMGUI.h"
+#include "hartframe/ConsoleTracer.h"
+#include "hartframe/MessageControl.h"
+#include "hartframe/NamePattern.h"
+#include "hartframe/PluginProbe.h"
+#include "interfaces/InternalNames.h"
+#include "platform/Platform.h"
+#include "workerdb/CDDWorkerDB.h"
+
+namespace hartframe {
+
+namespace {
+
+using ZAFHartTypes::Definition;
+using ZAFHartTypes::ErrorNumber;
+using ZAFHartTypes::Failure;
+using ZAFHartTypes::ObjectKind;
+using ZAFHartTypes::Variant;
+namespace names = ZAFHartTypes::internal_names;
+
+std::filesystem::path PendingPath(const Options& options) {
+  if (options.deviceFile.empty()) return {};
+  return std::filesystem::path(options.deviceFile.string() + ".pending");
+}
+
+template <typename T>
+T& Require(const std::shared_ptr<T>& component) {
+  if (!component) throw Failure(ErrorNumber::ObjectNotSet, "hartframe");
+  return *component;
+}
+
+}  // namespace
+
+Session::Session(const Options& options, Console& console, const Speech& speech, Report& report)
+    : options_(options),
+      console_(console),
+      speech_(speech),
+      report_(report),
+      pending_(PendingPath(options)) {}
+
+Session::~Session() {
+  if (components_) components_->PrepareTermination();
+}
+
+void Session::Open() {
+  LoadDtm();
+  RegisterControls();
+  Connect();
+  SetSessionVariables();
+}
+
+void Session::LoadDtm() {
+  auto& classes = platform::Current().Classes();
+  ZAFHartLib::RegisterLibraryClasses(classes);
+  if (options_.trace) ConsoleTracer::Connect(console_, options_);
+  classes.SetPluginPath(options_.pluginPath);
+  plugin_ = classes.FindPlugin(options_.dtm);
+  if (!plugin_.empty()) ProbePlugin(plugin_);
+  components_ = ZAFHartLib::CDDComponents::Create();
+  components_->SetDataModelClass(options_.dtm + ".DataModel");
+  components_->SetCommWrapperClass("ZAFHartLib.CDDTestCommWrapper");
+  try {
+    components_->Initialize();
+  } catch (const Failure& failure) {
+    throw CommandFailure(ExitCode::DtmNotLoadable, failure.Description());
+  }
+}
+
+void Session::RegisterControls() {
+  // Tells what the attributes of a variable depend on.
+  dynamic_cast<ZAFHartLib::CDDWorkerDB&>(Database()).SetTrackDependencies(true);
+  const auto gui = std::dynamic_pointer_cast<ZAFHartLib::CDDDTMGUI>(components_->DDGUI());
+  Require(gui).SetLanguageID(speech_.Language());
+  errors_ = std::make_shared<ErrorWatch>();
+  gui->SetErrorHandler(errors_);
+  gui->SetMessageControl(std::make_shared<MessageControl>(report_, console_, speech_, signals_));
+  view_ = std::make_shared<ViewControl>(console_, speech_, signals_);
+  view_->SetComponentModel(components_);
+  gui->RegisterCtrl(view_);
+  signals_.SetHandler([this] { components_->CancelOperation(); });
+}
+
+void Session::Connect() {
+  link_ = MakeLink(options_);
+  const auto user = std::dynamic_pointer_cast<ZAFHartTypes::ILinkUser>(components_->HARTComm());
+  Require(user).SetLink(link_);
+}
+
+void Session::SetSessionVariables() {
+  constexpr std::int32_t kOnline = 7;  // of "__ZAF__FDTDTMState"
+  const auto set = [this](std::string_view name, const Variant& value) {
+    Database().WriteValue(Definition::Define(name, ObjectKind::Variable), value);
+  };
+  set(names::kFDTUserLevel, static_cast<std::int16_t>(options_.userLevel));
+  const char* user = std::getenv("USER");
+  set("__ZAF__FDTUserName", user ? user : "");
+  set("__ZAF__FDTDTMState", kOnline);
+}
+
+ZAFHartTypes::IDDKernel& Session::Kernel() {
+  return Require(components_->DDKernel());
+}
+
+ZAFHartTypes::IDDWorkerDB& Session::Database() {
+  return Require(components_->DDWorkerDB());
+}
+
+ZAFHartTypes::IDDCommWrapper& Session::Comm() {
+  return Require(components_->HARTComm());
+}
+
+std::shared_ptr<ZAFHartTypes::Variable> Session::Variable(const Definition& definition) {
+  return Kernel().GetVariable(definition);
+}
+
+VariableRow Session::Row(const Definition& definition) {
+  return MakeRow(Variable(definition), speech_);
+}
+
+std::vector<Definition> Session::AllVariables(bool internalToo) {
+  std::vector<Definition> definitions;
+  for (const auto& object : Database().NewEnum()) {
+    if (object->Kind() != ObjectKind::Variable) continue;
+    const Definition& definition = object->ObjectDefinition();
+    if (internalToo || !definition.Name().starts_with(names::kPrefix))
+      definitions.push_back(definition);
+  }
+  return definitions;
+}
+
+Definition Session::Find(const std::string& name) {
+  const auto object = Database().ReadObject(Definition::Define(name, ObjectKind::Variable));
+  if (!object || object->Kind() != ObjectKind::Variable) {
+    throw CommandFailure(ExitCode::Usage, speech_(Text::UnknownName, {OneLine(name)}));
+  }
+  return object->ObjectDefinition();
+}
+
+std::vector<Definition> Session::FindAll(const std::vector<std::string>& patterns,
+                                         bool internalToo) {
+  const std::vector<Definition> all = AllVariables(true);
+  std::vector<bool> chosen(all.size());
+  for (const std::string& pattern : patterns) {
+    bool matched = false;
+    for (std::size_t i = 0; i < all.size(); ++i) {
+      const bool isInternal = all[i].Name().starts_with(names::kPrefix);
+      if (isInternal && !internalToo && IsPattern(pattern)) continue;
+      if (!MatchesPattern(all[i].Name(), pattern)) continue;
+      matched = chosen[i] = true;
+    }
+    if (matched) continue;
+    const Text text = IsPattern(pattern) ? Text::NoMatch : Text::UnknownName;
+    throw CommandFailure(ExitCode::Usage, speech_(text, {OneLine(pattern)}));
+  }
+  std::vector<Definition> definitions;
+  for (std::size_t i = 0; i < all.size(); ++i) {
+    if (chosen[i]) definitions.push_back(all[i]);
+  }
+  return definitions;
+}
+
+ExitCode Session::TellFileErrors() {
+  const auto device = std::dynamic_pointer_cast<DeviceConnection>(link_);
+  if (!device || device->FileErrors().empty()) return ExitCode::Ok;
+  for (const std::string& error : device->FileErrors())
+    report_.Problem(NameOf(ExitCode::FileBroken), error);
+  return ExitCode::FileBroken;
+}
+
+bool Session::Run(const std::function<void()>& operation) {
+  try {
+    signals_.Check();
+    if (!Interrupted()) operation();
+  } catch (const Failure& failure) {
+    if (failure.Number() != ErrorNumber::Cancelled) throw;
+  }
+  return !Interrupted();
+}
+
+}  // namespace hartframe

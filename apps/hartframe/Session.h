@@ -1,0 +1,87 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "components/CDDComponents.h"
+#include "hartframe/Connection.h"
+#include "hartframe/Console.h"
+#include "hartframe/ErrorWatch.h"
+#include "hartframe/Options.h"
+#include "hartframe/PendingFile.h"
+#include "hartframe/Report.h"
+#include "hartframe/SignalWatch.h"
+#include "hartframe/Speech.h"
+#include "hartframe/ViewControl.h"
+
+namespace hartframe {
+
+// One DTM instance with what a frame gives it: a link to the device, controls, the language, the
+// user's rights. Ends the instance with its scope.
+class Session {
+ public:
+  Session(const Options& options, Console& console, const Speech& speech, Report& report);
+  ~Session();
+  Session(const Session&) = delete;
+  Session& operator=(const Session&) = delete;
+
+  // Loads the DTM and connects it. Raises CommandFailure: DtmNotLoadable, FileBroken, or Usage for
+  // a fault that is none.
+  void Open();
+
+  const Options& Settings() const { return options_; }
+  const Speech& Say() const { return speech_; }
+  Report& Tell() { return report_; }
+  Console& Terminal() { return console_; }
+  ErrorWatch& Errors() { return *errors_; }
+  ViewControl& View() { return *view_; }
+  const PendingFile& Pending() const { return pending_; }
+  const std::filesystem::path& PluginFile() const { return plugin_; }
+
+  ZAFHartLib::CDDComponents& Components() { return *components_; }
+  // Each raises ObjectNotSet when the instance has been torn down.
+  ZAFHartTypes::IDDKernel& Kernel();
+  ZAFHartTypes::IDDWorkerDB& Database();
+  ZAFHartTypes::IDDCommWrapper& Comm();
+
+  // The variable with current attributes, not read from the device.
+  std::shared_ptr<ZAFHartTypes::Variable> Variable(const ZAFHartTypes::Definition& definition);
+  VariableRow Row(const ZAFHartTypes::Definition& definition);
+  // Variables in database order; the library's own when they are asked for.
+  std::vector<ZAFHartTypes::Definition> AllVariables(bool internalToo);
+  // The variable of that name in any letter case; CommandFailure (Usage) when there is none.
+  ZAFHartTypes::Definition Find(const std::string& name);
+  // Those whose names match one of the patterns (* and ?), in database order. CommandFailure
+  // (Usage) for a pattern that matches none.
+  std::vector<ZAFHartTypes::Definition> FindAll(const std::vector<std::string>& patterns,
+                                                bool internalToo);
+
+  // Runs an operation that Ctrl-C ends; false when it did.
+  bool Run(const std::function<void()>& operation);
+  bool Interrupted() const { return signals_.Interrupted(); }
+  // What the emulated device could not do with its file; tells each.
+  ExitCode TellFileErrors();
+
+ private:
+  void LoadDtm();
+  void Connect();
+  void RegisterControls();
+  void SetSessionVariables();
+
+  const Options& options_;
+  Console& console_;
+  const Speech& speech_;
+  Report& report_;
+  PendingFile pending_;
+  SignalWatch signals_;
+  std::filesystem::path plugin_;
+  std::shared_ptr<HartLinkSim::SimulatedLink> link_;
+  std::shared_ptr<ErrorWatch> errors_;
+  std::shared_ptr<ViewControl> view_;
+  std::shared_ptr<ZAFHartLib::CDDComponents> components_;
+};
+
+}  // namespace hartframe

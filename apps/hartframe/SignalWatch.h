@@ -1,0 +1,31 @@
+#pragma once
+
+#include <functional>
+
+#include "platform/MessageLoop.h"
+
+namespace hartframe {
+
+// Ctrl-C: the first one ends the running operation in an orderly way, a second one the process.
+// One object at a time.
+class SignalWatch {
+ public:
+  SignalWatch();
+  ~SignalWatch();
+  SignalWatch(const SignalWatch&) = delete;
+  SignalWatch& operator=(const SignalWatch&) = delete;
+
+  // What is done about it, on the thread of the message loop.
+  void SetHandler(std::function<void()> handler) { handler_ = std::move(handler); }
+  bool Interrupted() const;
+  // Runs the handler when a Ctrl-C has come since the last time. A timer does so too; this is for
+  // those who work long without letting the message loop run.
+  void Check();
+
+ private:
+  std::function<void()> handler_;
+  bool handled_ = false;
+  platform::Subscription timer_;
+};
+
+}  // namespace hartframe

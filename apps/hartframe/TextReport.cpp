@@ -1,0 +1,116 @@
+#include "hartframe/TextReport.h"
+
+#include <chrono>
+#include <ctime>
+
+#include "platform/Platform.h"
+#include "types/Utf8.h"
+
+namespace hartframe {
+
+namespace {
+
+std::string OutcomeText(const WriteResult& result, const Speech& speech) {
+  constexpr Text kTexts[] = {Text::OutcomeWritten,  Text::OutcomeAdjusted,
+                             Text::OutcomeRefused,  Text::OutcomeNotAccepted,
+                             Text::OutcomeNoAnswer, Text::OutcomeNotAttempted};
+  std::string text = speech(kTexts[static_cast<std::size_t>(result.outcome)]);
+  if (result.outcome == Outcome::Written || result.outcome == Outcome::NotAttempted) return text;
+  return text + "; " +
+         (result.deviceHas.empty() ? speech(Text::DeviceUnknown)
+                                   : speech(Text::DeviceHas, {result.deviceHas}));
+}
+
+std::string TimeOfDay() {
+  const std::time_t now =
+      std::chrono::system_clock::to_time_t(platform::Current().GetClock().WallTime());
+  std::tm local{};
+  localtime_r(&now, &local);
+  char text[16];
+  const std::size_t length = std::strftime(text, sizeof text, "%H:%M:%S", &local);
+  return {text, length};
+}
+
+// Lines of a message, whose own line ends are kept.
+std::string Indented(std::string_view text) {
+  std::string lines;
+  while (!text.empty()) {
+    const auto end = text.find('\n');
+    const std::string line = OneLine(text.substr(0, end));
+    const auto last = line.find_last_not_of(' ');
+    if (last != std::string::npos) lines += "\n    " + line.substr(0, last + 1);
+    if (end == std::string_view::npos) break;
+    text.remove_prefix(end + 1);
+  }
+  return lines;
+}
+
+}  // namespace
+
+void TextReport::Message(const ZAFHartTypes::UserMessage& message) {
+  if (++messages_[{message.title, message.prompt}] > 1) return;
+  console_.Error("* " + OneLine(message.title) + Indented(message.prompt));
+}
+
+void TextReport::Note(std::string_view, const std::string& sentence) {
+  console_.Out(sentence);
+}
+
+void TextReport::Problem(std::string_view, const std::string& sentence) {
+  console_.Error(sentence);
+}
+
+void TextReport::Variables(std::span<const VariableRow> rows) {
+  std::vector<std::vector<std::string>> cells;
+  for (const VariableRow& row : rows)
+    cells.push_back({row.name, row.label, row.value, row.unit, StateText(row, speech_)});
+  console_.Table({speech_(Text::ColumnName), speech_(Text::ColumnLabel), speech_(Text::ColumnValue),
+                  speech_(Text::ColumnUnit), speech_(Text::ColumnState)},
+                 cells);
+}
+
+void TextReport::Update(const VariableRow& row) {
+  std::string line = TimeOfDay() + "  " + row.label + " (" + row.name + ")  " + row.value;
+  if (!row.unit.empty()) line += ' ' + row.unit;
+  if (!row.error.empty()) line += "  " + row.error;
+  console_.Out(line);
+}
+
+void TextReport::WriteResults(std::span<const WriteResult> results) {
+  std::vector<std::vector<std::string>> cells;
+  for (const WriteResult& result : results)
+    cells.push_back(
+        {result.row.name, result.row.label, result.meant, OutcomeText(result, speech_)});
+  if (cells.empty()) return;
+  console_.Table({speech_(Text::ColumnName), speech_(Text::ColumnLabel), speech_(Text::ColumnValue),
+                  speech_(Text::ColumnState)},
+                 cells);
+}
+
+void TextReport::Pending(std::span<const VariableRow> rows) {
+  if (rows.empty()) return;
+  console_.Out(speech_(Text::PendingTitle));
+  for (const VariableRow& row : rows) {
+    console_.Out("  " + row.name + " = " + row.value + (row.unit.empty() ? "" : ' ' + row.unit));
+  }
+}
+
+void TextReport::Facts(std::string_view, const std::string& title, std::span<const Fact> facts) {
+  console_.Out(title);
+  std::vector<std::vector<std::string>> cells;
+  std::size_t width = 0;
+  for (const Fact& fact : facts) width = std::max(width, ZAFHartTypes::utf8::Length(fact.label));
+  for (const Fact& fact : facts) {
+    const std::size_t gap = width - ZAFHartTypes::utf8::Length(fact.label) + 2;
+    console_.Out("  " + fact.label + std::string(gap, ' ') + fact.value);
+  }
+}
+
+void TextReport::Finish(ExitCode) {
+  for (const auto& [message, count] : messages_) {
+    if (count > 1)
+      console_.Error(speech_(Text::Repeated, {std::to_string(count), OneLine(message.second)}));
+  }
+}
+
+}  // namespace hartframe

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <map>
+#include <utility>
+
+#include "hartframe/Console.h"
+#include "hartframe/Report.h"
+#include "hartframe/Speech.h"
+
+namespace hartframe {
+
+// Tables and sentences. Results go to standard output, messages and problems to standard error.
+class TextReport : public Report {
+ public:
+  TextReport(Console& console, const Speech& speech) : console_(console), speech_(speech) {}
+
+  void Message(const ZAFHartTypes::UserMessage& message) override;
+  void Note(std::string_view code, const std::string& sentence) override;
+  void Problem(std::string_view code, const std::string& sentence) override;
+  void Variables(std::span<const VariableRow> rows) override;
+  void Update(const VariableRow& row) override;
+  void WriteResults(std::span<const WriteResult> results) override;
+  void Pending(std::span<const VariableRow> rows) override;
+  void Facts(std::string_view section, const std::string& title,
+             std::span<const Fact> facts) override;
+  void Finish(ExitCode code) override;
+
+ private:
+  Console& console_;
+  const Speech& speech_;
+  std::map<std::pair<std::string, std::string>, int> messages_;  // how often each was shown
+};
+
+}  // namespace hartframe

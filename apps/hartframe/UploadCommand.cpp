@@ -1,0 +1,51 @@
+#include "hartframe/Changes.h"
+#include "hartframe/Commands.h"
+#include "hartframe/DataSet.h"
+#include "types/TextKey.h"
+
+namespace hartframe {
+
+namespace {
+
+std::string NamesOf(const std::vector<Change>& changes) {
+  std::string names;
+  for (const Change& change : changes)
+    names += (names.empty() ? "" : ", ") + change.definition.Name();
+  return names;
+}
+
+bool IsYes(std::string_view answer, const Speech& say) {
+  const std::string yes = say(Text::Yes);
+  return !answer.empty() &&
+         (ZAFHartTypes::SameKey(answer, yes) || ZAFHartTypes::SameKey(answer, yes.substr(0, 1)));
+}
+
+// An upload gives up what is still to be written: only when the user says so.
+bool MayDiscard(Session& session, const std::vector<Change>& pending) {
+  if (pending.empty() || session.Settings().discard) return true;
+  const Speech& say = session.Say();
+  if (!session.Terminal().CanAsk()) {
+    throw CommandFailure(ExitCode::NotAllowed, say(Text::PendingRefused, {NamesOf(pending)}));
+  }
+  const std::string yes = say(Text::Yes);
+  const auto answer =
+      session.Terminal().Ask(say(Text::PendingQuestion, {NamesOf(pending)}) + " [" + yes + "] ");
+  return answer && IsYes(*answer, say);
+}
+
+}  // namespace
+
+ExitCode RunUpload(Session& session) {
+  const std::vector<Change> pending = LoadPending(session);
+  if (!MayDiscard(session, pending)) {
+    session.Tell().Problem("uploadKept", session.Say()(Text::UploadKept));
+    return session.Interrupted() ? ExitCode::Interrupted : ExitCode::NotAllowed;
+  }
+  const Loaded loaded = LoadDataSet(session);
+  session.Pending().Save({});
+  session.Tell().Variables(loaded.rows);
+  TellLoaded(session, loaded);
+  return loaded.code;
+}
+
+}  // namespace hartframe

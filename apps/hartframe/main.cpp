@@ -1,0 +1,71 @@
+#include <memory>
+
+#include "hartframe/Commands.h"
+#include "hartframe/JsonReport.h"
+#include "hartframe/PluginProbe.h"
+#include "hartframe/TextReport.h"
+#include "platform/Platform.h"
+
+namespace hartframe {
+
+namespace {
+
+ExitCode RunCommand(Session& session) {
+  switch (session.Settings().command) {
+    case CommandKind::Upload:
+      return RunUpload(session);
+    case CommandKind::Download:
+      return RunDownload(session);
+    case CommandKind::Write:
+      return RunWrite(session);
+    case CommandKind::Read:
+      return RunRead(session);
+    case CommandKind::List:
+      return RunList(session);
+    case CommandKind::Watch:
+      return RunWatch(session);
+    case CommandKind::Info:
+    case CommandKind::ProbePlugin:
+      break;
+  }
+  return RunInfo(session);
+}
+
+ExitCode RunSession(const Options& options, Console& console, const Speech& speech,
+                    Report& report) {
+  try {
+    Session session(options, console, speech, report);
+    session.Open();
+    const ExitCode code = RunCommand(session);
+    return Worse(code, session.TellFileErrors());
+  } catch (const CommandFailure& failure) {
+    report.Problem(NameOf(failure.Code()), failure.Description());
+    return failure.Code();
+  } catch (const platform::Failure& failure) {
+    report.Problem(NameOf(ExitCode::Internal), failure.Source() + ": " + failure.Description());
+    return ExitCode::Internal;
+  }
+}
+
+int Run(const Options& options) {
+  if (options.command == CommandKind::ProbePlugin) return RunPluginProbe(options.plugin);
+  platform::Current().Locale() = platform::UserLocale::FromEnvironment();
+  Console console;
+  const Speech speech(options.language);
+  std::unique_ptr<Report> report;
+  if (options.json)
+    report = std::make_unique<JsonReport>(console, options);
+  else
+    report = std::make_unique<TextReport>(console, speech);
+  const ExitCode code = RunSession(options, console, speech, *report);
+  report->Finish(code);
+  return static_cast<int>(code);
+}
+
+}  // namespace
+
+}  // namespace hartframe
+
+int main(int argc, char** argv) {
+  return hartframe::Run(hartframe::ParseCommandLine(argc, argv));
+}
