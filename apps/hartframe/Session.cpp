@@ -91,6 +91,8 @@ void Session::Connect() {
   link_ = MakeLink(options_);
   const auto user = std::dynamic_pointer_cast<ZAFHartTypes::ILinkUser>(components_->HARTComm());
   Require(user).SetLink(link_);
+  // A new data set's defaults are not what the device has: whatever is shown or sent is read first.
+  Database().SetVariableAvailable({}, false);
 }
 
 void Session::SetSessionVariables() {

@@ -82,7 +82,7 @@ void DescribeResistance(DeviceDescription& dd) {
             "Coefficient of Callendar and Van Dusen|de|"
             "Koeffizient nach Callendar und Van Dusen")
         .Double()
-        .Format("12.5e")
+        .Format(".5e")
         .Default(initial)
         .ValidWhen(HasResistance)
         .WritableWhen(HasOwnCoefficients);
