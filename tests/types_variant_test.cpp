@@ -103,6 +103,7 @@ TEST_F(VariantTest, WritesNumbersAsTextLikeTheAutomationRunTime) {
   for (const auto& [value, expected] : cases) EXPECT_EQ(value.ToText(), expected);
   EXPECT_EQ(Variant(std::vector<Variant>{1, 2, 3}).Describe(), "Array(3)");
   EXPECT_EQ(Variant::Null().Describe(), "Null");
+  EXPECT_EQ(Variant(Date{1e9}).Describe(), "1000000000");
 }
 
 TEST_F(VariantTest, UsesTheUsersSeparatorAndShortDate) {

@@ -67,7 +67,9 @@ std::string Variant::Describe() const {
   if (const auto* items = std::get_if<ArrayType>(&value_)) {
     return "Array(" + std::to_string((*items)->size()) + ")";
   }
-  return ToText();
+  std::string text;
+  if (!IgnoreFailures([&] { text = ToText(); })) text = NumberToText(ToDouble());  // no such date
+  return text;
 }
 
 bool operator==(const Variant& a, const Variant& b) {
