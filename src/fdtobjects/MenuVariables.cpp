@@ -24,9 +24,11 @@ bool IsStored(ZAFHartTypes::IDDComponents& components, const Definition& definit
   return object && object->Kind() == definition.Kind();
 }
 
+// Lists are walked over a copy: computing a menu, display or group anew replaces its items.
 void MenuVariables::AddItemsOf(const Definition& menu) {
   if (!IsStored(components_, menu)) return;
-  for (MenuItem item : kernel_.GetMenu(menu)->Items()) {
+  const auto items = kernel_.GetMenu(menu)->Items();
+  for (MenuItem item : items) {
     if (!collected_.insert(item.Definition().Key()).second) continue;
     item.SetDDObject(nullptr);
     items_.Add(std::move(item));
@@ -35,7 +37,7 @@ void MenuVariables::AddItemsOf(const Definition& menu) {
 
 void MenuVariables::CollectFrom(const Definition& menu) {
   if (!visited_.insert(menu.Key()).second || !IsStored(components_, menu)) return;
-  const auto items = kernel_.GetMenu(menu)->Items();  // a copy: computing a menu replaces its items
+  const auto items = kernel_.GetMenu(menu)->Items();
   for (const MenuItem& item : items) CollectItem(item.Definition());
 }
 
@@ -63,19 +65,18 @@ void MenuVariables::CollectVariable(const Definition& definition) {
 void MenuVariables::CollectEditDisplay(const Definition& definition) {
   if (!IsStored(components_, definition)) return;
   const auto display = kernel_.GetEditDisplay(definition);
-  for (const auto* list : {&display->DisplayItems(), &display->EditItems()}) {
-    for (const EditDisplayItem& item : *list) {
-      if (item.definition.Kind() == ObjectKind::Variable) CollectVariable(item.definition);
-      if (item.definition.Kind() == ObjectKind::WriteAsOne) CollectGroup(item.definition);
-    }
+  auto items = display->DisplayItems();
+  items.insert(items.end(), display->EditItems().begin(), display->EditItems().end());
+  for (const EditDisplayItem& item : items) {
+    if (item.definition.Kind() == ObjectKind::Variable) CollectVariable(item.definition);
+    if (item.definition.Kind() == ObjectKind::WriteAsOne) CollectGroup(item.definition);
   }
 }
 
 void MenuVariables::CollectGroup(const Definition& definition) {
   if (!IsStored(components_, definition)) return;
-  for (const auto& item : kernel_.GetWriteAsOne(definition)->Items()) {
-    CollectVariable(item.definition);
-  }
+  const auto items = kernel_.GetWriteAsOne(definition)->Items();
+  for (const auto& item : items) CollectVariable(item.definition);
 }
 
 }  // namespace ZAFHartLib
