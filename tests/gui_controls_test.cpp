@@ -21,6 +21,11 @@ TEST_F(ControlsTest, RegistersOnceWithLanguageAndLock) {
   EXPECT_THAT(control->TakeCalls(), ElementsAre("SetComponentModel"));
   gui->UnregisterCtrl(gui->ActiveControl());
   EXPECT_FALSE(gui->ActiveControl() || gui->MessageControl());
+  control->fails = true;  // with its language; it is locked all the same
+  control->lockControls = false;
+  gui->RegisterCtrl(control);
+  EXPECT_TRUE(control->lockControls);
+  gui->UnregisterCtrl(control);
   gui->ReleaseUILock(lock);
   gui->ShowObject(MakeVariable("x"));
   EXPECT_THAT(control->shown, IsEmpty());
@@ -94,6 +99,12 @@ TEST_F(ControlsTest, ObjectsAreShownOncePerState) {
   gui->ShowObject(nullptr);
   EXPECT_THAT(control->TakeCalls(),
               ElementsAre("ShowObject x", "ShowObject run", "HideObject menu"));
+
+  platform.Registry().SetValue(DtmSettingsPath("Device.dll"), kFilterDDObjectsForGui, "1");
+  gui->SetComponentModel(components);  // the DTM's own setting goes first
+  control->TakeCalls();
+  showAll();
+  EXPECT_THAT(control->TakeCalls(), IsEmpty());
 }
 
 TEST_F(ControlsTest, OnlyTheValueOneHoldsBackDeviceObjectsDuringAnUpdate) {

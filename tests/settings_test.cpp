@@ -39,6 +39,7 @@ TEST_F(SettingsTest, TakesTheFirstKeyThenTheSecondThenTheDefault) {
 TEST_F(SettingsTest, NamesTheKeyOfADtm) {
   EXPECT_EQ(DtmSettingsKey("Device.V2.dll"), "Device.DDDataModel");
   EXPECT_EQ(DtmSettingsKey("Device"), "DDDataModel");
+  EXPECT_EQ(DtmSettingsPath("Device.dll"), dtms_ + "\\Device.DDDataModel");
 }
 
 TEST_F(SettingsTest, LoadsShowDDInformationOncePerThread) {

@@ -97,13 +97,12 @@ void CDDDTMGUI::RegisterCtrl(const Control& nobj) {
   if (!nobj) return;
   UnregisterCtrl(nobj);
   controls_.Add(nobj);
-  IgnoreFailures([&] {
-    platform::CallForeign("RegisterCtrl", [&] {
-      nobj->SetLanguageID(language_);
-      auto* container = dynamic_cast<IGuiContainer*>(nobj.get());
-      if (container && IsUILocked()) container->SetLockControls(true);
-    });
-  });
+  const auto call = [](auto&& step) {
+    IgnoreFailures([&] { platform::CallForeign("RegisterCtrl", step); });
+  };
+  call([&] { nobj->SetLanguageID(language_); });
+  auto* container = dynamic_cast<IGuiContainer*>(nobj.get());
+  if (container && IsUILocked()) call([&] { container->SetLockControls(true); });
 }
 
 void CDDDTMGUI::UnregisterCtrl(const Control& nobj) {

@@ -13,7 +13,7 @@ GuiSettings ReadGuiSettings(const std::shared_ptr<IKernelInformation>& informati
   IgnoreFailures([&] {
     if (information) componentFile = information->ComponentFileName();
   });
-  const std::string ownKey = DtmSettingsKey(componentFile);
+  const std::string ownKey = DtmSettingsPath(componentFile);
   GuiSettings settings;
   settings.enableHostVariableFilter =
       GetNumberSetting(ownKey, kDtmsKey, kEnableHostVariableFilter, 0) == 1;

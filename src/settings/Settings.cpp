@@ -56,6 +56,10 @@ std::string DtmSettingsKey(std::string_view componentFileName) {
   return std::string(componentFileName.substr(0, end)) + "DDDataModel";
 }
 
+std::string DtmSettingsPath(std::string_view componentFileName) {
+  return std::string(kDtmsKey) + "\\" + DtmSettingsKey(componentFileName);
+}
+
 bool ShowDDInformation() {
   auto& state = platform::Current().PerThread<ShowDDInformationState>();
   if (!state.loaded) {

@@ -29,6 +29,8 @@ double GetNumberSetting(std::string_view firstKey, std::string_view secondKey,
 
 // The DTM's own key: its component file name up to and including the first ".", then "DDDataModel".
 std::string DtmSettingsKey(std::string_view componentFileName);
+// Its full path, under the DTMs key.
+std::string DtmSettingsPath(std::string_view componentFileName);
 
 // DD names and numbers are shown to the user. Read once per user-interface thread; true when it
 // cannot be read.
