@@ -96,6 +96,8 @@ TEST(Variable, AttributesOfOneSnapshotNeverReachAnother) {
   one->EditTypeInfo().SetSize(4);
   EXPECT_EQ(other->TypeInfo().Size(), 0);
   EXPECT_FALSE(one->HasSameState(*other));
+  other->EditTypeInfo().SetSize(4);
+  EXPECT_TRUE(one->HasSameState(*other));  // computed alike
 }
 
 TEST(Variable, EveryComputationStartsFromTheFrozenAttributes) {
@@ -199,9 +201,19 @@ TEST(Variable, FallbackIsTheLastAcceptedValueThenTheDefault) {
   variable->EditTypeInfo().SetMaxValue(1, 100);
   variable->SetDefaultValue(50);
   EXPECT_EQ(variable->FallbackValue(), Variant(50));
-  variable->CheckValue(70, true);
-  variable->CheckValue(700, true);
-  EXPECT_EQ(variable->FallbackValue(), Variant(70));
+  SnapshotOf(variable)->CheckValue(70, true);
+  SnapshotOf(variable)->CheckValue(700, true);
+  variable->Copy()->CheckValue(80, true);  // a copy is a variable of its own
+  EXPECT_EQ(SnapshotOf(variable)->FallbackValue(), Variant(70));
+}
+
+TEST(Variable, CurrentVariableIsOfTheEntryAlone) {
+  const auto stored = MakeObject<Variable>("v");
+  const auto read = SnapshotOf(stored);
+  stored->SetCurrentVariable(read);
+  EXPECT_EQ(SnapshotOf(stored)->CurrentVariable(), nullptr);
+  EXPECT_EQ(stored->Copy()->CurrentVariable(), nullptr);
+  EXPECT_EQ(stored->CurrentVariable(), read);
 }
 
 TEST(TypeInfo, FourPackedCharactersTakeThreeBytes) {

@@ -20,6 +20,11 @@ std::shared_ptr<View> MakeView(DDObject& object) {
 
 }  // namespace
 
+DDObject::DDObject(const DDObject& other)
+    : enable_shared_from_this(other), definition_(other.definition_) {
+  TakeStampsFrom(other);
+}
+
 DDObject::~DDObject() = default;
 
 std::shared_ptr<DDObject> DDObject::ComputeAttributes() {

@@ -74,7 +74,8 @@ class DDObject : public std::enable_shared_from_this<DDObject> {
 
  protected:
   explicit DDObject(const Definition& definition) : definition_(definition) {}
-  DDObject(const DDObject& other) = default;
+  // CurrentVariable stays where it is: copies would form a chain that grows with every read.
+  DDObject(const DDObject& other);
 
   // Definition is fixed from birth, except for menus and methods, whose authors may set it later.
   void SetObjectDefinition(const Definition& definition) { definition_ = definition; }

@@ -20,6 +20,8 @@ class EnumItem {
   const std::string& Help() const { return help_; }
   void SetHelp(std::string text) { help_ = std::move(text); }
 
+  friend bool operator==(const EnumItem&, const EnumItem&) = default;
+
  private:
   std::int32_t value_ = 0;
   std::string description_;
@@ -41,6 +43,8 @@ class EnumList {
   auto end() const { return items_.end(); }
   // The first item of that value; nullptr when there is none.
   const EnumItem* Find(std::int32_t value) const;
+
+  friend bool operator==(const EnumList&, const EnumList&) = default;
 
  private:
   std::vector<EnumItem> items_;

@@ -9,6 +9,10 @@ namespace {
 
 const EnumList kNoItems;
 
+bool SameItems(const EnumList& a, const EnumList& b) {
+  return &a == &b || a == b;
+}
+
 }  // namespace
 
 const EnumItem* EnumList::Find(std::int32_t value) const {
@@ -37,6 +41,21 @@ const EnumList& TypeInfo::EnumItems() const {
 }
 const BitList& TypeInfo::BitItems() const {
   return bitItems_ ? *bitItems_ : kNoItems;
+}
+
+bool operator==(const TypeInfo& a, const TypeInfo& b) {
+  return a.typeCode_ == b.typeCode_ && a.size_ == b.size_ && a.maxEnumValue_ == b.maxEnumValue_ &&
+         a.displayFormat_ == b.displayFormat_ && a.indexedArray_ == b.indexedArray_ &&
+         a.scalingFactor_ == b.scalingFactor_ && a.ranges_ == b.ranges_ &&
+         SameItems(a.EnumItems(), b.EnumItems()) && SameItems(a.BitItems(), b.BitItems());
+}
+
+void TypeInfo::SetRangeCount(std::int32_t count) {
+  if (count < 0) {
+    throw Failure(ErrorNumber::InvalidArgument, "TypeInfo.SetRangeCount",
+                  "A type cannot have " + std::to_string(count) + " ranges.");
+  }
+  ranges_.resize(static_cast<std::size_t>(count));
 }
 
 const TypeInfo::Range& TypeInfo::RangeAt(std::int32_t index) const {

@@ -39,7 +39,7 @@ class TypeInfo {
   // MIN_VALUE/MAX_VALUE pairs, numbered from 1. An empty limit is none. Setting a limit makes room
   // for it. Reading one outside 1..RangeCount() raises SubscriptOutOfRange.
   std::int32_t RangeCount() const { return static_cast<std::int32_t>(ranges_.size()); }
-  void SetRangeCount(std::int32_t count) { ranges_.resize(static_cast<std::size_t>(count)); }
+  void SetRangeCount(std::int32_t count);
   const Variant& MinValue(std::int32_t index) const { return RangeAt(index).minimum; }
   const Variant& MaxValue(std::int32_t index) const { return RangeAt(index).maximum; }
   void SetMinValue(std::int32_t index, Variant value) {
@@ -60,10 +60,14 @@ class TypeInfo {
   const std::shared_ptr<const ItemArray>& IndexedArray() const { return indexedArray_; }
   void SetIndexedArray(std::shared_ptr<const ItemArray> array) { indexedArray_ = std::move(array); }
 
+  // Same contents; of an item array the same object.
+  friend bool operator==(const TypeInfo& a, const TypeInfo& b);
+
  private:
   struct Range {
     Variant minimum;
     Variant maximum;
+    friend bool operator==(const Range&, const Range&) = default;
   };
   const Range& RangeAt(std::int32_t index) const;
   Range& EditRange(std::int32_t index);

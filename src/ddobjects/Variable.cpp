@@ -16,7 +16,10 @@ std::shared_ptr<const VariableBlock> EmptyBlock() {
 }  // namespace
 
 Variable::Variable(const ZAFHartTypes::Definition& definition)
-    : DDObject(definition), block_(EmptyBlock()), frozenBlock_(block_) {}
+    : DDObject(definition),
+      block_(EmptyBlock()),
+      frozenBlock_(block_),
+      lastAccepted_(std::make_shared<Variant>()) {}
 
 Variable::Variable(PrivateTag, const Variable& other, std::uint32_t changes) : Variable(other) {
   changes_ = changes;
@@ -61,11 +64,12 @@ RelationItemList& Variable::EditWriteDependencies() {
 void Variable::ConvertToUnit(std::string_view /*unitText*/) {}
 
 bool Variable::HasSameState(const Variable& other) const {
-  return block_ == other.block_ && available_ == other.available_ &&
-         toBeWritten_ == other.toBeWritten_ && isChecked_ == other.isChecked_ &&
-         validity_ == other.validity_ && errorIndex_ == other.errorIndex_ &&
-         errorText_ == other.errorText_ && unitText_ == other.unitText_ &&
-         (Value() == other.Value() || (Value().IsNotFinite() && other.Value().IsNotFinite()));
+  return available_ == other.available_ && toBeWritten_ == other.toBeWritten_ &&
+         isChecked_ == other.isChecked_ && validity_ == other.validity_ &&
+         errorIndex_ == other.errorIndex_ && errorText_ == other.errorText_ &&
+         unitText_ == other.unitText_ &&
+         (Value() == other.Value() || (Value().IsNotFinite() && other.Value().IsNotFinite())) &&
+         (block_ == other.block_ || *block_ == *other.block_);
 }
 
 void Variable::CopyFrom(const Variable& other) {
@@ -80,7 +84,9 @@ void Variable::CopyFrom(const Variable& other) {
 }
 
 std::shared_ptr<Variable> Variable::Copy() const {
-  return std::make_shared<Variable>(PrivateTag{}, *this, kEverything);
+  auto copy = std::make_shared<Variable>(PrivateTag{}, *this, kEverything);
+  copy->lastAccepted_ = std::make_shared<Variant>(*lastAccepted_);
+  return copy;
 }
 std::shared_ptr<Variable> Variable::Snapshot() const {
   return std::make_shared<Variable>(PrivateTag{}, *this, changes_);

@@ -25,6 +25,8 @@ struct VariableBlock {
   SharedText help;
   SharedText fixedUnitText;
   DefinitionList actions[kActionListCount];
+
+  friend bool operator==(const VariableBlock&, const VariableBlock&) = default;
 };
 
 // A DD variable: its value and state, and a block of computed attributes.
@@ -140,7 +142,7 @@ class Variable : public DDObject {
   // --- operations ---
   // `value` is acceptable: it converts to the type and fits its size; with `strict` it also lies in
   // one of the ranges, is one of the enumeration's, bit list's or array's values. Never raises.
-  // An accepted strict value is remembered for FallbackValue.
+  // An accepted strict value is remembered for FallbackValue of all snapshots of the variable.
   bool CheckValue(const Variant& value, bool strict) const;
   // The last value that passed a strict CheckValue, else the default, else SubstituteValue().
   Variant FallbackValue() const;
@@ -151,7 +153,7 @@ class Variable : public DDObject {
   // The variable's own unit conversion, used when there is no unit table: the value stays.
   void ConvertToUnit(std::string_view unitText);
   // Same value, availability, to-be-written and checked marks, validity, error, unit text and
-  // attribute block.
+  // computed attributes.
   bool HasSameState(const Variable& other) const;
   // Takes over value, state and flags of another variable of any name.
   void CopyFrom(const Variable& other);
@@ -199,7 +201,8 @@ class Variable : public DDObject {
   std::shared_ptr<const VariableBlock> frozenBlock_;
   Variant value_;
   Variant defaultValue_;
-  mutable Variant lastAccepted_;
+  // Shared by a variable and its snapshots: values are checked on snapshots. A copy has its own.
+  std::shared_ptr<Variant> lastAccepted_;
   SharedText errorText_;
   SharedText unitText_;
   ZAFHartTypes::Definition unitSource_;

@@ -19,6 +19,8 @@ class VariableAttributes {
   bool IsDynamic() const { return Flag(VariableFlag::Dynamic); }
   bool IsLibraryHeld() const { return Flag(VariableFlag::LibraryHeld); }
 
+  friend bool operator==(const VariableAttributes&, const VariableAttributes&) = default;
+
  private:
   std::uint32_t bits_ = 0;
 };

@@ -141,12 +141,12 @@ Variant LoweredDefault(const Variant& defaultValue, const TypeInfo& type) {
 
 bool Variable::CheckValue(const Variant& value, bool strict) const {
   const bool acceptable = Accepts(value, TypeInfo(), strict);
-  if (acceptable && strict) lastAccepted_ = value;
+  if (acceptable && strict) *lastAccepted_ = value;
   return acceptable;
 }
 
 Variant Variable::FallbackValue() const {
-  if (!lastAccepted_.IsEmpty()) return lastAccepted_;
+  if (!lastAccepted_->IsEmpty()) return *lastAccepted_;
   if (!defaultValue_.IsEmpty()) return defaultValue_;
   return SubstituteValue();
 }
