@@ -23,7 +23,6 @@ using ZAFHartTypes::ExchangeState;
 using ZAFHartTypes::Failure;
 using ZAFHartTypes::IgnoreFailures;
 using ZAFHartTypes::LifeSignalCode;
-using ZAFHartTypes::Variant;
 
 namespace {
 

@@ -1,5 +1,3 @@
-#include <algorithm>
-
 #include "comm/CDDTestCommWrapper.h"
 #include "comm/ReplyDecoding.h"
 #include "comm/ReplyStatus.h"
@@ -16,7 +14,6 @@ namespace ZAFHartLib {
 
 namespace hart = ZAFHartTypes::hart;
 using HartLinkSim::Frame;
-using HartLinkSim::ItemLayout;
 using ZAFHartTypes::DataItem;
 using ZAFHartTypes::DataItemList;
 using ZAFHartTypes::ErrorNumber;
