@@ -71,6 +71,7 @@ Json RowsJson(std::span<const VariableRow> rows) {
   return json;
 }
 
+constexpr int kOneLine = -1;
 constexpr const char* kOutcomes[] = {"written",     "adjusted", "refused",
                                      "notAccepted", "noAnswer", "notAttempted"};
 constexpr const char* kCommands[] = {"upload", "download", "write", "read",
@@ -104,7 +105,8 @@ void JsonReport::Variables(std::span<const VariableRow> rows) {
 }
 
 void JsonReport::Update(const VariableRow& row) {
-  console_.Out(Dumped({{"update", RowJson(row)}}, -1));
+  console_.Out(Dumped({{"update", RowJson(row)}}, kOneLine));
+  indent_ = kOneLine;
 }
 
 void JsonReport::WriteResults(std::span<const WriteResult> results) {
@@ -134,7 +136,7 @@ void JsonReport::Facts(std::string_view section, const std::string&, std::span<c
 void JsonReport::Finish(ExitCode code) {
   document_["result"] = NameOf(code);
   document_["exitCode"] = static_cast<int>(code);
-  console_.Out(Dumped(document_, 2));
+  console_.Out(Dumped(document_, indent_));
 }
 
 }  // namespace hartframe

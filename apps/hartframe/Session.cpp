@@ -91,8 +91,8 @@ void Session::Connect() {
   link_ = MakeLink(options_);
   const auto user = std::dynamic_pointer_cast<ZAFHartTypes::ILinkUser>(components_->HARTComm());
   Require(user).SetLink(link_);
-  // A new data set's defaults are not what the device has: whatever is shown or sent is read first.
-  Database().SetVariableAvailable({}, false);
+  // The DTM's defaults count as values; for those who ask the device they are not what it has.
+  if (options_.command != CommandKind::List) Database().SetVariableAvailable({}, false);
 }
 
 void Session::SetSessionVariables() {

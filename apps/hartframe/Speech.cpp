@@ -47,8 +47,9 @@ constexpr std::array<const char*, static_cast<std::size_t>(Text::Count)> kTexts{
     "Changes are not written yet and an upload would lose them: {0}. Write them first (hartframe "
     "write), or give --discard.|de|Änderungen sind noch nicht geschrieben und gingen beim Laden "
     "verloren: {0}. Erst schreiben (hartframe write) oder --discard angeben.",
-    "Changes are not written yet: {0}. Load from the device and lose them?|de|Änderungen sind "
-    "noch nicht geschrieben: {0}. Aus dem Gerät laden und sie verlieren?",
+    "Changes are not written yet: {0}. Load from the device and lose them? (yes/no) |de|Änderungen "
+    "sind "
+    "noch nicht geschrieben: {0}. Aus dem Gerät laden und sie verlieren? (ja/nein) ",
     "yes|de|ja",
     "Nothing was loaded; the changes are kept.|de|Nichts geladen; die Änderungen bleiben.",
     "An observer cannot write. Choose another --user-level.|de|Ein Beobachter kann nicht "

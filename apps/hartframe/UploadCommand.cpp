@@ -27,9 +27,7 @@ bool MayDiscard(Session& session, const std::vector<Change>& pending) {
   if (!session.Terminal().CanAsk()) {
     throw CommandFailure(ExitCode::NotAllowed, say(Text::PendingRefused, {NamesOf(pending)}));
   }
-  const std::string yes = say(Text::Yes);
-  const auto answer =
-      session.Terminal().Ask(say(Text::PendingQuestion, {NamesOf(pending)}) + " [" + yes + "] ");
+  const auto answer = session.Terminal().Ask(say(Text::PendingQuestion, {NamesOf(pending)}));
   return answer && IsYes(*answer, say);
 }
 

@@ -2,6 +2,7 @@
 
 #include "hartframe/Commands.h"
 #include "hartframe/DataSet.h"
+#include "hartframe/Reading.h"
 #include "platform/Platform.h"
 
 namespace hartframe {
@@ -15,7 +16,8 @@ using ZAFHartTypes::Definition;
 std::vector<Definition> Watchable(Session& session) {
   std::vector<Definition> watchable;
   for (const Definition& definition : session.FindAll(session.Settings().names, false)) {
-    const auto variable = session.Variable(definition);
+    std::shared_ptr<ZAFHartTypes::Variable> variable;
+    if (!session.Run([&] { variable = ReadThoroughly(session, definition); })) break;
     const bool readable =
         variable->CheckHandling(AccessMode::Read) && !variable->Attributes().IsLibraryHeld();
     if (readable && variable->Validity()) {
@@ -32,6 +34,7 @@ std::vector<Definition> Watchable(Session& session) {
 ExitCode RunWatch(Session& session) {
   const Options& options = session.Settings();
   const std::vector<Definition> watched = Watchable(session);
+  if (session.Interrupted()) return ExitCode::Interrupted;
   if (watched.empty()) return ExitCode::Usage;
   int updates = 0;
   const auto isDone = [&] { return options.updates > 0 && updates >= options.updates; };
