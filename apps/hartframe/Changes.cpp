@@ -20,13 +20,13 @@ using ZAFHartTypes::Variant;
 }
 
 void RequireWritable(Session& session, const Variable& variable) {
+  const Speech& say = session.Say();
   const std::string& name = variable.Definition().Name();
-  if (variable.Attributes().IsLibraryHeld() ||
-      !session.Kernel().FindWriteCommand(variable.Definition())) {
-    Refuse(session.Say()(Text::NotADeviceVariable, {name}));
-  }
-  if (!variable.CheckHandling(AccessMode::Write)) Refuse(session.Say()(Text::NotWritable, {name}));
-  if (!variable.Validity()) Refuse(session.Say()(Text::NotValidNow, {name}));
+  if (variable.Attributes().IsLibraryHeld()) Refuse(say(Text::NotADeviceVariable, {name}));
+  if (!variable.CheckHandling(AccessMode::Write)) Refuse(say(Text::NotWritable, {name}));
+  if (!variable.Validity()) Refuse(say(Text::NotValidNow, {name}));
+  if (!session.Kernel().FindWriteCommand(variable.Definition()))
+    Refuse(say(Text::NotADeviceVariable, {name}));
 }
 
 Variant AcceptedValue(Session& session, const Variable& variable, const std::string& text) {
