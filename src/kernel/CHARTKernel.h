@@ -214,8 +214,10 @@ class CHARTKernel : public platform::Object,
   // --- WriteVariable.cpp ---
   void StoreNewValue(Variable& variable, const Variant& value) const;
   void WriteLocally(const std::shared_ptr<Variable>& variable, const Variant& value);
-  void EndDeviceWrite(const Definition& definition, const std::shared_ptr<CommandRef>& command);
-  void GiveUpWrite(const Definition& definition);
+  void EndDeviceWrite(const Definition& definition, const Variant& value,
+                      const std::shared_ptr<CommandRef>& command);
+  bool IsOutrun(const Definition& definition, const Variant& sent) const;
+  void GiveUpWrite(const Definition& definition, const Variant& sent);
   void GiveUpRequest(const Definition& written, const CommandRef& command,
                      const ZAFHartTypes::CommandStatus& status);
   void MarkModified(const Definition& definition) const;
@@ -259,7 +261,7 @@ class CHARTKernel : public platform::Object,
   // --- Editing.cpp, WriteAsOne.cpp ---
   bool BeginsEdit(const Definition& variable);
   void EnterField(const std::shared_ptr<Variable>& field, PreEdit preEdit);
-  void TakeEditedValue(const std::shared_ptr<Variable>& field, const Variant& value);
+  bool TakeEditedValue(const std::shared_ptr<Variable>& field, const Variant& value);
   void EndEdit(const std::shared_ptr<Variable>& field);
   void EnterMember(std::shared_ptr<Variable>& variable);
   void LeaveMember(std::shared_ptr<Variable>& variable);
@@ -273,7 +275,7 @@ class CHARTKernel : public platform::Object,
   void LeaveMenuField(const std::shared_ptr<Variable>& field);
   void WriteChangesAtOnce();
   void ExecuteSubMenu(const Definition& definition, bool isReadOnly, bool isEntered);
-  void SetSubMenuReadOnly(const Definition& definition, bool isReadOnly) const;
+  void SetSubMenuReadOnly(const Definition& definition, bool isReadOnly);
   void ExecuteEditDisplayItem(const std::shared_ptr<EditDisplay>& field, bool isEntered);
   bool PrepareItems(const std::shared_ptr<EditDisplay>& display, EditItemList list,
                     std::initializer_list<ZAFHartTypes::ObjectKind> allowed);

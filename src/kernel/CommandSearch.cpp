@@ -117,15 +117,20 @@ class CHARTKernel::CommandSearch {
   void PostReach(std::size_t position) {
     std::vector<TextKey> items;
     std::vector<TextKey> sources;
+    std::vector<Definition> computed;
     bool settled = true;
     const auto uses = [&](const DDObject& source) {
       sources.push_back(source.ObjectDefinition().Key());
-      settled = settled && IsSettled(source);
+      computed.push_back(source.ObjectDefinition());
     };
     const auto lookup = [&](const Definition& definition) {
       std::shared_ptr<ItemCollection> collection;
       IgnoreFailures([&] { collection = kernel_.GetCollection(definition); });
-      if (collection) uses(*collection);
+      if (collection) {
+        uses(*collection);
+      } else {
+        settled = false;
+      }
       return collection;
     };
     const auto collect = [&](const Definition& item) {
@@ -133,17 +138,25 @@ class CHARTKernel::CommandSearch {
       return false;
     };
     const std::vector<Definition> variables = kernel_.commandIndex_->IndexVariables(position);
-    for (const Definition& definition : variables) {
+    const auto reach = [&](const Definition& definition) {
       const auto variable = kernel_.GetVariable(definition);
       uses(*variable);
       const ItemArray* array = IndexedArrayOf(*variable);
-      if (!array) continue;
+      if (!array) return;
       // A stale array is searched as it stands; the getter tells when it has been computed anew.
       sources.push_back(array->Definition().Key());
       for (std::size_t i = 0; i < array->Elements().size(); ++i) {
         const Definition item = array->Elements()[i].definition;
         VisitElementItem(item, lookup, collect);
       }
+    };
+    // The ordinary test alone decides whether a failure ends the search.
+    for (const Definition& definition : variables) {
+      if (!IgnoreFailures([&] { reach(definition); })) settled = false;
+    }
+    // At the end: computing one source may have made another stale.
+    for (const Definition& source : computed) {
+      settled = settled && IsSettled(*kernel_.Database()->ReadObject(source));
     }
     kernel_.commandIndex_->PostReach(position, std::move(items), std::move(sources), settled);
   }

@@ -89,7 +89,7 @@ void CHARTKernel::ExecuteEditDisplay(const std::shared_ptr<EditDisplay>& display
       EndEdit(field);
     }
   } else if (item.Kind() == ObjectKind::WriteAsOne) {
-    const auto group = Stored<WriteAsOne>(item, kOperation);
+    const auto group = GetWriteAsOne(item);
     if (!isEntered && group->IsComplete()) group->SetIsEditing(false);
     if (!isEntered && !group->IsComplete()) Report(object, ItemIndex::NotAllChecked);
     Store(group);

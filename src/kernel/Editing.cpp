@@ -28,19 +28,20 @@ void CHARTKernel::EndEdit(const std::shared_ptr<Variable>& field) {
 }
 
 // Stores a value that the user has given when the variable accepts it; otherwise the stored value
-// stands and the error is recorded.
-void CHARTKernel::TakeEditedValue(const std::shared_ptr<Variable>& field, const Variant& value) {
+// stands and the error is recorded. True when it is accepted.
+bool CHARTKernel::TakeEditedValue(const std::shared_ptr<Variable>& field, const Variant& value) {
   const Definition& definition = field->Definition();
   const auto variable = GetVariable(definition);
   Database()->SetVariableError(definition, 0, "");
   if (variable->CheckValue(value, true)) {
     field->SetValue(value);
     Database()->WriteValue(definition, value);
-    return;
+    return true;
   }
   Database()->SetVariableError(definition, static_cast<std::int32_t>(ItemIndex::NotWritable),
                                RefusalText(*variable, Gui()->LanguageID()));
   Show(Find<Variable>(definition));
+  return false;
 }
 
 }  // namespace ZAFHartLib

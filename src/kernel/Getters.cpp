@@ -180,11 +180,13 @@ std::shared_ptr<Command> CHARTKernel::GetSafeCommand(const Definition& definitio
   return command;
 }
 
-// The unit of the value. A unit variable that is itself being computed is taken as it stands.
+// The unit of the value. A unit variable that asks for its own unit in turn is taken as it stands;
+// one whose data model is at work is the guard's to judge.
 void CHARTKernel::AfterComputing(Variable& variable) {
   const Definition source = variable.UnitSource();
   if (!source) return;
-  const bool circular = DependencyFrame::Nesting(innermostFrame_, source) > 0;
+  const bool circular = DependencyFrame::Nesting(innermostFrame_, source) > 0 &&
+                        !Database()->IsVariableInRecursion(source);
   const auto unit = circular ? Find<Variable>(source) : GetVariable(source);
   if (!unit) return;
   if (context_.frame && CanBeRead(*unit)) context_.frame->Note(source, ReadSort::Value);

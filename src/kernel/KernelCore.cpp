@@ -35,9 +35,11 @@ CHARTKernel::~CHARTKernel() {
 }
 
 void CHARTKernel::Unhook() {
-  if (const auto database = hookedDatabase_.lock()) {
+  const auto database = hookedDatabase_.lock();
+  if (database && database->SinkHolder() == this) {
     database->SetInvalidationSink({});
     database->SetReadSink({});
+    database->SetSinkHolder(nullptr);
   }
 }
 
@@ -82,9 +84,10 @@ void CHARTKernel::RunUnitRelations() {
 std::shared_ptr<CDDWorkerDB> CHARTKernel::TrackingDatabase() {
   auto database = std::dynamic_pointer_cast<CDDWorkerDB>(Database());
   if (!database || !database->TrackDependencies()) return nullptr;
-  if (hookedDatabase_.lock() != database) {
+  if (hookedDatabase_.lock() != database || database->SinkHolder() != this) {
     Unhook();
     hookedDatabase_ = database;
+    database->SetSinkHolder(this);
     commandIndex_->Reset(commandList_);
     relationIndex_->Reset(relationList_.Count());
     database->SetInvalidationSink([this](const Definition& object) { AttributesStale(object); });

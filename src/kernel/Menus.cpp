@@ -185,8 +185,8 @@ void CHARTKernel::ExecuteSubMenu(const Definition& definition, bool isReadOnly, 
   }
 }
 
-void CHARTKernel::SetSubMenuReadOnly(const Definition& definition, bool isReadOnly) const {
-  const auto menu = Stored<Menu>(definition, "IDDKernel_ExecuteMenu");
+void CHARTKernel::SetSubMenuReadOnly(const Definition& definition, bool isReadOnly) {
+  const auto menu = GetMenu(definition);
   menu->SetIsReadOnly(isReadOnly);
   Store(menu);
 }

@@ -20,8 +20,19 @@ void PostingIndex::Post(std::size_t position, std::vector<Key> keys, std::vector
   if (settled) {
     suspects_.erase(position);
   } else {
-    suspects_.insert(position);
+    Suspect(position);
   }
+}
+
+void PostingIndex::BeginEvaluation(std::size_t position, std::vector<Key> watched) {
+  Entry& entry = entries_[position];
+  Replace(watchers_, entry.watched, std::move(watched), position);
+  entry.doubted = false;
+}
+
+void PostingIndex::Suspect(std::size_t position) {
+  suspects_.insert(position);
+  entries_[position].doubted = true;
 }
 
 void PostingIndex::Replace(PositionsByKey& map, std::vector<Key>& old, std::vector<Key> now,
@@ -40,7 +51,7 @@ void PostingIndex::Replace(PositionsByKey& map, std::vector<Key>& old, std::vect
 void PostingIndex::ObjectStale(Key object) {
   const auto found = watchers_.find(object);
   if (found == watchers_.end()) return;
-  suspects_.insert(found->second.begin(), found->second.end());
+  for (const std::size_t position : found->second) Suspect(position);
 }
 
 std::size_t PostingIndex::Next(Key key, std::size_t from) const {

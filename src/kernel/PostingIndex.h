@@ -25,7 +25,11 @@ class PostingIndex {
 
   // Replaces the posting of an entry. Unless it is `settled`, the entry stays suspect.
   void Post(std::size_t position, std::vector<Key> keys, std::vector<Key> watched, bool settled);
-  void Suspect(std::size_t position) { suspects_.insert(position); }
+  // The entry is about to be evaluated, then posted as settled only unless IsDoubted: what it
+  // watches may go stale meanwhile.
+  void BeginEvaluation(std::size_t position, std::vector<Key> watched);
+  bool IsDoubted(std::size_t position) const { return entries_[position].doubted; }
+  void Suspect(std::size_t position);
   bool IsSuspect(std::size_t position) const { return suspects_.contains(position); }
   void ObjectStale(Key object);
 
@@ -39,6 +43,7 @@ class PostingIndex {
   struct Entry {
     std::vector<Key> keys;
     std::vector<Key> watched;
+    bool doubted = false;  // suspected since its evaluation began
   };
   static void Replace(PositionsByKey& map, std::vector<Key>& old, std::vector<Key> now,
                       std::size_t position);

@@ -146,7 +146,7 @@ std::shared_ptr<CommandRef> CHARTKernel::ReadAsync(const Definition& definition,
     }
     AsyncExecuteCommandStart(reference);
   }
-  Show(variable);
+  Show(Stored<Variable>(definition, name));  // waits may have brought news
   operation.Release(kStarted);
   return reference;
 }

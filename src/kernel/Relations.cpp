@@ -67,6 +67,7 @@ void CHARTKernel::ExecuteRelations(const Definition& variable) {
 
 void CHARTKernel::EvaluateRelation(std::size_t position, const Definition& relation,
                                    const Definition& context, const CDDWorkerDB* tracking) {
+  if (tracking) relationIndex_->BeginEvaluation(position, {relation.Key()});
   Evaluation evaluation;
   if (relation.Kind() == ObjectKind::RefreshRelation) {
     evaluation = EvaluateRefresh(relation, context);
@@ -74,7 +75,8 @@ void CHARTKernel::EvaluateRelation(std::size_t position, const Definition& relat
     evaluation = EvaluateUnit(relation, context);
   }
   if (!tracking) return;
-  const bool settled = evaluation.settled && !tracking->HasMissingDependency(relation);
+  const bool settled = evaluation.settled && !relationIndex_->IsDoubted(position) &&
+                       !tracking->HasMissingDependency(relation);
   relationIndex_->Post(position, std::move(evaluation.triggers), {relation.Key()}, settled);
 }
 

@@ -80,10 +80,12 @@ void CHARTKernel::LeaveMember(std::shared_ptr<Variable>& variable) {
   const Definition definition = variable->Definition();
   const Variant value = Gui()->GetObjectValue(variable);
   if (value.IsNull()) return;
-  TakeEditedValue(variable, value);
-  variable->SetIsChecked(true);
-  EndEdit(variable);
-  Database()->SetVariableIsChecked(definition, true);
+  const bool accepted = TakeEditedValue(variable, value);
+  if (accepted) {
+    variable->SetIsChecked(true);
+    EndEdit(variable);
+  }
+  Database()->SetVariableIsChecked(definition, accepted);
   variable = Stored<Variable>(definition, "IDDKernel_ExecuteWriteAsOne");
   Show(variable);
 }

@@ -48,7 +48,7 @@ void CHARTKernel::WriteVariable(const Definition& definition, const Variant& val
       return;
     }
     ExecuteCommand(command->Command(), command->TransactionNumber());
-    EndDeviceWrite(definition, command);
+    EndDeviceWrite(definition, value, command);
   } else if (variable->Attributes().IsLibraryHeld() && variable->CheckValue(value, true)) {
     WriteLocally(variable, value);
   } else {
@@ -89,12 +89,18 @@ void CHARTKernel::MarkModified(const Definition& definition) const {
   if (!IsInternal(definition)) SetDataSetState(*Database(), DataSetState::ValidModified);
 }
 
-void CHARTKernel::EndDeviceWrite(const Definition& definition,
+// A value given since waits to be written.
+bool CHARTKernel::IsOutrun(const Definition& definition, const Variant& sent) const {
+  const auto stored = Find<Variable>(definition);
+  return stored && stored->ToBeWritten() && !(stored->Value() == sent);
+}
+
+void CHARTKernel::EndDeviceWrite(const Definition& definition, const Variant& value,
                                  const std::shared_ptr<CommandRef>& command) {
   const CommandStatus status = StatusFromReply(ReplyBytesOf(*command->ReferredTransaction()));
   if (status.communication != 0 || status.responseCode != 0) {
     GiveUpRequest(definition, *command, status);
-    GiveUpWrite(definition);
+    GiveUpWrite(definition, value);
   }
   if (status.communication != 0) {
     Report(Stored<Variable>(definition, kOperation), ItemIndex::CannotWrite);
@@ -107,8 +113,9 @@ void CHARTKernel::EndDeviceWrite(const Definition& definition,
   MarkModified(definition);
 }
 
-// The device's value stands.
-void CHARTKernel::GiveUpWrite(const Definition& definition) {
+// The device's value stands, unless the user has given another one during the exchange.
+void CHARTKernel::GiveUpWrite(const Definition& definition, const Variant& sent) {
+  if (IsOutrun(definition, sent)) return;
   const auto database = Database();
   database->SetVariableAvailable(definition, false);
   database->SetVariableToBeWritten(definition, false);
@@ -129,7 +136,8 @@ void CHARTKernel::GiveUpRequest(const Definition& written, const CommandRef& com
   const auto database = Database();
   for (const DataItem& item : transaction->Request()) {
     const Definition& definition = item.VariableDefinition();
-    if (!item.IsVariable() || item.IsInfo() || item.IsIndex() || definition.IsSameAs(written)) {
+    if (!item.IsVariable() || item.IsInfo() || item.IsIndex() || definition.IsSameAs(written) ||
+        (item.Variable() && IsOutrun(definition, item.Variable()->Value()))) {
       continue;
     }
     database->SetVariableAvailable(definition, false);
@@ -139,7 +147,7 @@ void CHARTKernel::GiveUpRequest(const Definition& written, const CommandRef& com
     if (stored->ErrorText().empty()) {
       database->SetVariableError(definition, verdict.error, verdict.message);
     }
-    Show(stored);
+    Show(Find<Variable>(definition));
   }
 }
 

@@ -172,6 +172,9 @@ class CDDWorkerDB : public platform::Object,
   // for none.
   using ReadSink = std::function<void(const Definition&)>;
   void SetReadSink(ReadSink sink) { readSink_ = std::move(sink); }
+  // Who has set the sinks, so that a former holder does not clear those of its successor.
+  const void* SinkHolder() const { return sinkHolder_; }
+  void SetSinkHolder(const void* holder) { sinkHolder_ = holder; }
 
   // --- engineering units ---
   // Runs the method "__ZAF__init_unit_table" through the kernel when the DD has it and it is valid.
@@ -286,6 +289,7 @@ class CDDWorkerDB : public platform::Object,
   DependencyTable dependencies_;
   InvalidationSink invalidationSink_;
   ReadSink readSink_;
+  const void* sinkHolder_ = nullptr;
   std::vector<std::weak_ptr<StateCounter>> counters_;
   std::unordered_map<ZAFHartTypes::TextKey, std::size_t, ZAFHartTypes::TextKeyHash> unitUsers_;
   UnitTable units_;

@@ -118,7 +118,10 @@ bool CDDWorkerDB::RecalculateForUnit(Variable& receiving, const Variable& unit,
     variable.SetAvailable(false);
     variable.SetValue(after);
   });
-  if (Differ(before, after)) AdvanceGeneration();
+  if (Differ(before, after)) {
+    InvalidateDependents(receiving.Definition().Key());
+    AdvanceGeneration();
+  }
   return true;
 }
 

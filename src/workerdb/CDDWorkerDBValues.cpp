@@ -93,8 +93,8 @@ void CDDWorkerDB::StoreObject(const std::shared_ptr<DDObject>& object, Propagati
   Variable* stored = entry->variable;
   auto* incoming = dynamic_cast<Variable*>(object.get());
   if (!stored || !incoming) {
-    object->SetSyncStamp(generation_);
-    if (object != entry->object) entry->object->Assign(*object);  // refuses another kind
+    if (object->AttributesAvailable()) object->SetSyncStamp(generation_);  // else it stays stale
+    if (object != entry->object) entry->object->Assign(*object);           // refuses another kind
     return;
   }
   StoreVariable(*incoming, *stored);
