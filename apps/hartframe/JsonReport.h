@@ -9,7 +9,8 @@
 namespace hartframe {
 
 // Collects one JSON document and prints it at the end; the updates of watch come as a line of JSON
-// each before it, and the document then takes one line as well. Field names are English and stay; texts are in the user's language.
+// each before it, and the document then takes one line as well. Field names are English and stay;
+// texts are in the user's language.
 class JsonReport : public Report {
  public:
   JsonReport(Console& console, const Options& options);
