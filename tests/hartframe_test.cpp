@@ -240,6 +240,19 @@ TEST_F(Hartframe, WhatNoDeviceAnsweredToIsWrittenByALaterRun) {
   EXPECT_THAT(Run({"write"}).out, HasSubstr("Nothing to write"));
 }
 
+// Without the device this point is not valid, by the defaults; that must not lose the change.
+TEST_F(Hartframe, PendingChangesSurviveARunInWhichTheyCannotBeJudged) {
+  folder_.Write("device.txt.pending", "linearisation_input_1=260\n");
+  EXPECT_EQ(Run({"write", "tag=NEW", "--fault", "no-reply"}).code, 2);
+  EXPECT_THAT(PendingFile(), AllOf(HasSubstr("linearisation_input_1=260"), HasSubstr("tag=NEW")));
+  EXPECT_EQ(Run({"write", "linearisation_input_1=270", "--fault", "no-reply"}).code, 2);
+  EXPECT_THAT(PendingFile(), HasSubstr("=260")) << "refused, so the older change stands";
+  EXPECT_EQ(Run({"write", "linearisation_input_1=280"}).code, 0);
+  EXPECT_THAT(PendingFile(), IsEmpty());
+  EXPECT_EQ(ReadValue("linearisation_input_1"), 280);
+  EXPECT_EQ(ReadValue("tag"), "NEW");
+}
+
 TEST_F(Hartframe, UploadOverPendingChangesRefusesInAPipe) {
   Run({"write", "tag=NEW", "--fault", "no-reply"});
   const Result refused = Run({"upload"});

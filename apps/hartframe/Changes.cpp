@@ -1,5 +1,8 @@
 #include "hartframe/Changes.h"
 
+#include <algorithm>
+
+#include "hartframe/DataSet.h"
 #include "hartframe/Reading.h"
 #include "hartframe/ValueText.h"
 #include "types/Failure.h"
@@ -62,7 +65,7 @@ std::vector<Change> ParseChanges(Session& session, const std::vector<std::string
   return changes;
 }
 
-std::vector<Change> LoadPending(Session& session) {
+std::vector<Change> LoadPending(Session& session, const std::vector<Change>& anew) {
   std::vector<Change> changes;
   for (const PendingChange& kept : session.Pending().Load()) {
     try {
@@ -72,30 +75,42 @@ std::vector<Change> LoadPending(Session& session) {
                                                      "\": " + failure.Description());
     }
   }
+  std::erase_if(changes, [&](const Change& change) {
+    return std::any_of(anew.begin(), anew.end(), [&](const Change& other) {
+      return other.definition.IsSameAs(change.definition);
+    });
+  });
   return changes;
 }
 
-bool ReadForChanges(Session& session, const std::vector<Change>& changes) {
-  return session.Run([&] {
-    for (const Change& change : changes) {
-      ReadThoroughly(session, change.definition);
-      if (session.Interrupted()) return;
-    }
+ExitCode ReadForChanges(Session& session, const std::vector<Change>& changes) {
+  ThoroughReader reader(session);
+  const bool finished = session.Run([&] {
+    for (const Change& change : changes) reader.Read(change.definition);
   });
+  if (!finished) {
+    session.Tell().Problem("interrupted", session.Say()(Text::Interrupted));
+    return ExitCode::Interrupted;
+  }
+  TellTroubles(session, reader.Rows());
+  return CodeOfTroubles(reader.Rows());
 }
 
 void ApplyChanges(Session& session, const std::vector<Change>& changes) {
   for (const Change& change : changes) Apply(session, change);
 }
 
-void ApplyPending(Session& session, const std::vector<Change>& changes) {
+std::vector<Change> ApplyPending(Session& session, const std::vector<Change>& changes) {
+  std::vector<Change> notAccepted;
   for (const Change& change : changes) {
     try {
       Apply(session, change);
     } catch (const CommandFailure& failure) {
       session.Tell().Problem(NameOf(failure.Code()), failure.Description());
+      notAccepted.push_back(change);
     }
   }
+  return notAccepted;
 }
 
 std::vector<Definition> PendingVariables(Session& session) {
@@ -107,7 +122,7 @@ std::vector<Definition> PendingVariables(Session& session) {
   return pending;
 }
 
-void KeepPending(Session& session) {
+void KeepPending(Session& session, const std::vector<Change>& notAccepted) {
   std::vector<VariableRow> rows;
   std::vector<PendingChange> kept;
   for (const Definition& definition : PendingVariables(session)) {
@@ -115,6 +130,7 @@ void KeepPending(Session& session) {
     const Variable& variable = *rows.back().variable;
     kept.push_back({definition.Name(), StoredText(variable.Value(), variable)});
   }
+  for (const Change& change : notAccepted) kept.push_back({change.definition.Name(), change.value});
   session.Tell().Pending(rows);
   session.Pending().Save(kept);
   if (!kept.empty() && session.Pending().Keeps()) {

@@ -15,21 +15,24 @@ struct Change {
 
 // Takes "NAME=VALUE" texts apart. CommandFailure (Usage) for another form or an unknown name.
 std::vector<Change> ParseChanges(Session& session, const std::vector<std::string>& texts);
-// Changes of earlier runs that are still to be written. CommandFailure (FileBroken).
-std::vector<Change> LoadPending(Session& session);
+// Changes of earlier runs that are still to be written, without those of variables that are to be
+// changed anew. CommandFailure (FileBroken).
+std::vector<Change> LoadPending(Session& session, const std::vector<Change>& anew = {});
 
-// Reads what the changes concern, so that limits and units are the device's. False after Ctrl-C.
-bool ReadForChanges(Session& session, const std::vector<Change>& changes);
+// Reads what the changes concern, so that limits and units are the device's, and tells what went
+// wrong with that.
+ExitCode ReadForChanges(Session& session, const std::vector<Change>& changes);
 // Puts the changes into the data set, where they wait to be written. CommandFailure (ValueRefused)
 // for the first one that the DTM does not accept, with what it would.
 void ApplyChanges(Session& session, const std::vector<Change>& changes);
-// The same for changes of earlier runs; one that is not accepted any more is told and left out.
-void ApplyPending(Session& session, const std::vector<Change>& changes);
+// The same for changes of earlier runs. Tells about those that are not accepted (now that the
+// device does not answer, say) and returns them.
+std::vector<Change> ApplyPending(Session& session, const std::vector<Change>& changes);
 
 // Variables that are to be written, in database order.
 std::vector<ZAFHartTypes::Definition> PendingVariables(Session& session);
-// Tells what is still to be written and keeps it for a later run.
-void KeepPending(Session& session);
+// Tells what is still to be written, and keeps it for a later run together with `notAccepted`.
+void KeepPending(Session& session, const std::vector<Change>& notAccepted);
 // CommandFailure (NotAllowed) for an observer.
 void RequireWriteAccess(const Session& session);
 

@@ -46,15 +46,15 @@ void TellDownload(Session& session, std::vector<WriteResult> results,
 
 ExitCode RunDownload(Session& session) {
   RequireWriteAccess(session);
-  const std::vector<Change> pending = LoadPending(session);
   const std::vector<Change> changes = ParseChanges(session, session.Settings().changes);
+  const std::vector<Change> pending = LoadPending(session, changes);
   const Loaded loaded = LoadDataSet(session);
   TellLoaded(session, loaded);
   if (!loaded.IsComplete()) {
     session.Tell().Problem("incomplete", session.Say()(Text::IncompleteDataSet));
     return loaded.code;
   }
-  ApplyPending(session, pending);
+  const std::vector<Change> notAccepted = ApplyPending(session, pending);
   ApplyChanges(session, changes);
 
   WriteWatch watch(session, WritableOf(loaded));
@@ -63,8 +63,9 @@ ExitCode RunDownload(Session& session) {
   const std::vector<WriteResult> results = watch.Results();
   watch.RestoreUnanswered(results);
   TellDownload(session, results, changes);
-  KeepPending(session);
-  if (finished) return ExitCodeOf(results);
+  KeepPending(session, notAccepted);
+  const ExitCode refused = notAccepted.empty() ? ExitCode::Ok : ExitCode::ValueRefused;
+  if (finished) return Worse(ExitCodeOf(results), refused);
   session.Tell().Problem("interrupted", session.Say()(Text::Interrupted));
   return ExitCode::Interrupted;
 }

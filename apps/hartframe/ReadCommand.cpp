@@ -7,16 +7,17 @@ namespace hartframe {
 ExitCode RunRead(Session& session) {
   std::vector<VariableRow> rows;
   const auto definitions = session.FindAll(session.Settings().names, false);
+  ThoroughReader reader(session);
   const bool finished = session.Run([&] {
     for (const auto& definition : definitions) {
-      const auto variable = ReadThoroughly(session, definition);
+      const auto variable = reader.Read(definition);
       if (session.Interrupted()) return;
       rows.push_back(MakeRow(variable, session.Say()));
     }
   });
   session.Tell().Variables(rows);
-  TellTroubles(session, rows);
-  if (finished) return CodeOfTroubles(rows);
+  TellTroubles(session, reader.Rows());
+  if (finished) return CodeOfTroubles(reader.Rows());
   session.Tell().Problem(
       "interrupted",
       session.Say()(Text::InterruptedLeft, {std::to_string(definitions.size() - rows.size())}));

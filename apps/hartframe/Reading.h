@@ -1,15 +1,37 @@
 #pragma once
 
 #include <memory>
+#include <unordered_set>
+#include <vector>
 
 #include "hartframe/Session.h"
+#include "workerdb/CDDWorkerDB.h"
 
 namespace hartframe {
 
-// Reads from the device what the variable's validity, limits and unit depend on, so that they are
-// the device's and not those of the defaults, then the variable itself. Ctrl-C leaves it as it is
-// then; call it inside Session::Run.
-std::shared_ptr<ZAFHartTypes::Variable> ReadThoroughly(Session& session,
-                                                       const ZAFHartTypes::Definition& definition);
+// Reads variables from the device, and before each what its validity, limits and unit depend on, so
+// that they are the device's and not those of the defaults. For use inside Session::Run.
+class ThoroughReader {
+ public:
+  explicit ThoroughReader(Session& session);
+
+  // The variable as it is afterwards; after Ctrl-C as it is then.
+  std::shared_ptr<ZAFHartTypes::Variable> Read(const ZAFHartTypes::Definition& definition);
+  // Everything that was read, in that order.
+  const std::vector<VariableRow>& Rows() const { return rows_; }
+
+ private:
+  using TextKey = ZAFHartTypes::TextKey;
+
+  // A variable that decides about the object's attributes and can be read, but was not; empty when
+  // there is none.
+  ZAFHartTypes::Definition NextToRead(const ZAFHartTypes::Definition& object);
+
+  Session& session_;
+  ZAFHartLib::CDDWorkerDB& database_;
+  const std::vector<ZAFHartTypes::Definition> all_;
+  std::unordered_set<TextKey, ZAFHartTypes::TextKeyHash> started_;
+  std::vector<VariableRow> rows_;
+};
 
 }  // namespace hartframe

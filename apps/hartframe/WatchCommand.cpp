@@ -15,9 +15,10 @@ using ZAFHartTypes::Definition;
 // What the background refresh can read; the user is told about the others.
 std::vector<Definition> Watchable(Session& session) {
   std::vector<Definition> watchable;
+  ThoroughReader reader(session);
   for (const Definition& definition : session.FindAll(session.Settings().names, false)) {
     std::shared_ptr<ZAFHartTypes::Variable> variable;
-    if (!session.Run([&] { variable = ReadThoroughly(session, definition); })) break;
+    if (!session.Run([&] { variable = reader.Read(definition); })) break;
     const bool readable =
         variable->CheckHandling(AccessMode::Read) && !variable->Attributes().IsLibraryHeld();
     if (readable && variable->Validity()) {

@@ -15,32 +15,43 @@ void TellWritten(Session& session, const std::vector<WriteResult>& results) {
                                                                std::to_string(results.size())}));
 }
 
-}  // namespace
-
-ExitCode RunWrite(Session& session) {
-  RequireWriteAccess(session);
-  const std::vector<Change> pending = LoadPending(session);
-  const std::vector<Change> changes = ParseChanges(session, session.Settings().changes);
-  if (!ReadForChanges(session, pending) || !ReadForChanges(session, changes)) {
-    session.Tell().Problem("interrupted", session.Say()(Text::Interrupted));
-    return ExitCode::Interrupted;
-  }
-  ApplyPending(session, pending);
-  ApplyChanges(session, changes);
-
-  if (PendingVariables(session).empty()) {
+ExitCode WriteAndTell(Session& session, const std::vector<Change>& notAccepted) {
+  const std::vector<ZAFHartTypes::Definition> variables = PendingVariables(session);
+  if (variables.empty()) {
     session.Tell().Note("nothingToWrite", session.Say()(Text::NothingToWrite));
-    return ExitCode::Ok;
+    return notAccepted.empty() ? ExitCode::Ok : ExitCode::ValueRefused;
   }
-  WriteWatch watch(session, PendingVariables(session));
+  WriteWatch watch(session, variables);
   const bool finished = session.Run([&] { session.Components().WriteChanges(); });
   const std::vector<WriteResult> results = watch.Results();
   watch.RestoreUnanswered(results);
   TellWritten(session, results);
-  KeepPending(session);
-  if (finished) return ExitCodeOf(results);
-  session.Tell().Problem("interrupted", session.Say()(Text::Interrupted));
-  return ExitCode::Interrupted;
+  KeepPending(session, notAccepted);
+  if (!finished) {
+    session.Tell().Problem("interrupted", session.Say()(Text::Interrupted));
+    return ExitCode::Interrupted;
+  }
+  return Worse(ExitCodeOf(results), notAccepted.empty() ? ExitCode::Ok : ExitCode::ValueRefused);
+}
+
+}  // namespace
+
+ExitCode RunWrite(Session& session) {
+  RequireWriteAccess(session);
+  const std::vector<Change> changes = ParseChanges(session, session.Settings().changes);
+  const std::vector<Change> pending = LoadPending(session, changes);
+  std::vector<Change> all = pending;
+  all.insert(all.end(), changes.begin(), changes.end());
+  const ExitCode read = ReadForChanges(session, all);
+  if (read == ExitCode::Interrupted) return read;
+  const std::vector<Change> notAccepted = ApplyPending(session, pending);
+  try {
+    ApplyChanges(session, changes);
+  } catch (const CommandFailure& failure) {
+    // The data set is not the device's when that did not answer.
+    throw CommandFailure(Worse(read, failure.Code()), failure.Description());
+  }
+  return WriteAndTell(session, notAccepted);
 }
 
 }  // namespace hartframe

@@ -16,8 +16,8 @@ std::string WithoutTrailingBlanks(std::string text) {
   return text;
 }
 
-// The two are one value for a device: a float has 32 bits on the wire, texts are padded with
-// blanks, and Packed ASCII has capitals only.
+// The two are one value for a device: a float has 32 bits on the wire, integers are signed or not,
+// texts are padded with blanks, and Packed ASCII has capitals only.
 bool SameOnTheWire(const Variant& a, const Variant& b, TypeCode code) {
   bool same = false;
   ZAFHartTypes::IgnoreFailures([&] {
@@ -27,6 +27,8 @@ bool SameOnTheWire(const Variant& a, const Variant& b, TypeCode code) {
       const std::string textA = WithoutTrailingBlanks(a.ToText());
       const std::string textB = WithoutTrailingBlanks(b.ToText());
       same = code == TypeCode::PackedAscii ? ZAFHartTypes::SameKey(textA, textB) : textA == textB;
+    } else if (IsIntegral(code) || IsDate(code)) {
+      same = a.ToBits32() == b.ToBits32();
     } else {
       same = a == b;
     }
