@@ -215,6 +215,15 @@ TEST_F(Hartframe, DownloadWritesTheWholeDataSetWithTheChanges) {
   EXPECT_EQ(RunJson({"download", "--fault", "busy"}, 3)["problems"].back()["code"], "incomplete");
 }
 
+TEST_F(Hartframe, ADeviceIsFoundAtItsPollingAddress) {
+  EXPECT_EQ(Run({"write", "polling_address=5"}).code, 0);
+  EXPECT_THAT(Run({"read", "tag"}).error, HasSubstr("could not establish a connection"));
+  const Result found = Run({"read", "tag", "polling_address", "--address", "5"});
+  EXPECT_EQ(found.code, 0);
+  EXPECT_THAT(found.error, IsEmpty());
+  EXPECT_EQ(Run({"read", "tag", "--address", "64"}).code, 1);
+}
+
 TEST_F(Hartframe, AnObserverCannotWrite) {
   const Result result = Run({"write", "tag=X", "--user-level", "observer"});
   EXPECT_EQ(result.code, 7);

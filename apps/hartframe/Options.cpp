@@ -61,6 +61,9 @@ void AddLinkOptions(CLI::App& app, Parsed& parsed) {
                  "memory (default when --device is given)")
       ->transform(CLI::CheckedTransformer(kLinks, CLI::ignore_case))
       ->type_name("echo|device");
+  app.add_option("--address", options.pollingAddress, "The device's polling address (default: 0)")
+      ->type_name("N")
+      ->check(CLI::Range(0, 63));
   app.add_option("--fault", options.faults, "Fault of the emulated device (repeatable)")
       ->type_name("FAULT")
       ->allow_extra_args(false);

@@ -22,6 +22,7 @@ struct Options {
   LinkKind link = LinkKind::Echo;
   std::vector<std::string> faults;
   int latencyMilliseconds = 0;
+  int pollingAddress = 0;  // of the device
 
   std::string language = "en";
   bool json = false;

@@ -91,8 +91,10 @@ void Session::Connect() {
   link_ = MakeLink(options_);
   const auto user = std::dynamic_pointer_cast<ZAFHartTypes::ILinkUser>(components_->HARTComm());
   Require(user).SetLink(link_);
+  if (options_.command == CommandKind::List) return;
+  Comm().SetAddressInformation(options_.pollingAddress, {}, {});
   // The DTM's defaults count as values; for those who ask the device they are not what it has.
-  if (options_.command != CommandKind::List) Database().SetVariableAvailable({}, false);
+  Database().SetVariableAvailable({}, false);
 }
 
 void Session::SetSessionVariables() {
