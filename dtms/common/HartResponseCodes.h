@@ -4,7 +4,7 @@
 
 #include "dtmkit/CommandBuilder.h"
 
-// Response codes of the HART Response Code Specification (TS20307): the ones of a single meaning,
+// Response codes of the HART document TS20307: the ones of a single meaning,
 // and what a command's class always has. Codes 8 to 15 and 28 to 31 mean something else with each
 // command; a command gives them itself.
 namespace hart {

@@ -4,7 +4,7 @@
 
 #include "dtmkit/VariableBuilder.h"
 
-// Tables that all HART devices share, from the HART Common Tables Specification (TS20183); each
+// Tables that all HART devices share, from the HART Common Tables (TS20183); each
 // list is made once per process. Texts are English and German.
 namespace hart {
 
@@ -41,7 +41,7 @@ const Enums& ProcessDataStatusCodes();         // table A-3, bits 7 and 6 of a s
 const Enums& LimitStatusCodes();               // table A-3, bits 5 and 4
 const Enums& DeviceOperatingModes();           // table 14: only 0 is defined
 
-const Bits& DeviceStatusBits();          // field device status, Command Summary Specification 7.4.2
+const Bits& DeviceStatusBits();          // field device status, Command Summary (TS20099) 7.4.2
 const Bits& ExtendedDeviceStatusBits();  // table 17
 const Bits& DeviceFlagBits();            // table 11
 const Bits& AnalogChannelFlagBits();     // table 26

@@ -1,7 +1,7 @@
 #include "common/HartResponseCodes.h"
 #include "sampletemperature/Description.h"
 
-// Layouts are those of the HART Common Practice Command Specification (TS20151). A reply repeats
+// Layouts are those of the HART common practice commands (TS20151). A reply repeats
 // what was written.
 namespace sampletemperature {
 namespace {

@@ -2,7 +2,7 @@
 #include "sampletemperature/Description.h"
 #include "sampletemperature/DeviceVariable.h"
 
-// Layouts are those of the HART Universal Command Specification (TS20127), revision 7.
+// Layouts are those of the HART universal commands (TS20127), revision 7.
 namespace sampletemperature {
 namespace {
 

@@ -1,7 +1,7 @@
 #include "common/HartResponseCodes.h"
 #include "sampletemperature/Description.h"
 
-// Layouts are those of the HART Universal Command Specification (TS20127), revision 7. A reply
+// Layouts are those of the HART universal commands (TS20127), revision 7. A reply
 // repeats what was written.
 namespace sampletemperature {
 

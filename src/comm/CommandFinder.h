@@ -8,7 +8,7 @@
 namespace ZAFHartLib {
 
 // HART command numbers that the wrapper looks for: the device's identity, its polling address and
-// its tag (universal command specification).
+// its tag (universal commands).
 enum class UniversalCommand : std::int16_t {
   ReadUniqueIdentifier = 0,
   WritePollingAddress = 6,
