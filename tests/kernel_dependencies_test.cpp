@@ -43,6 +43,19 @@ TEST_F(KernelDependencies, OnlyWhatWasReadMakesAttributesStale) {
   EXPECT_EQ(Computed(), 0);
 }
 
+TEST_F(KernelDependencies, AVariableMayDependOnItsOwnValue) {
+  model->OnCompute<Variable>("x", [](IDDKernel&, Variable& x) { x.SetLabel(x.Value().ToText()); });
+  StartTracking();
+  Computed();
+  Set("x", std::int16_t{7});
+  EXPECT_EQ(Computed(), 1);
+  EXPECT_EQ(kernel->GetVariable(Var("x"))->Label(), "7");
+  EXPECT_EQ(Computed(), 0);
+  Computed("y");
+  Set("y", std::int16_t{7});
+  EXPECT_EQ(Computed("y"), 0) << "does not ask for its own value";
+}
+
 TEST_F(KernelDependencies, PassOnThroughVariablesArraysAndCollections) {
   model->OnCompute<Variable>("x", [](IDDKernel& k, Variable& x) {
     x.SetLabel(k.GetVariable(Var("y"))->Label());

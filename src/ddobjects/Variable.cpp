@@ -39,6 +39,7 @@ void Variable::SetHandling(bool readable, bool writable) {
 }
 
 const Variant& Variable::Value() const {
+  valueRead_ = true;
   return value_.IsEmpty() && available_ ? defaultValue_ : value_;
 }
 void Variable::SetValue(Variant value) {
@@ -99,6 +100,7 @@ std::shared_ptr<DDObject> Variable::GetCopy() const {
 }
 
 void Variable::BeginAttributeComputation() {
+  valueRead_ = false;
   block_ = frozenBlock_;
   changes_ |= kAttributes;
 }

@@ -173,6 +173,9 @@ class Variable : public DDObject {
   void FreezeAttributes() { frozenBlock_ = block_; }
   std::uint32_t Changes() const { return changes_; }
   void ForgetChanges() { changes_ = 0; }
+  // Value() has been asked since BeginAttributeComputation: a data model that does so computes
+  // attributes that depend on the variable itself.
+  bool ValueWasRead() const { return valueRead_; }
   // Tick count at which the variable last became available; kept by the worker database.
   std::uint32_t AvailableSince() const { return availableSince_; }
   void SetAvailableSince(std::uint32_t ticks) { availableSince_ = ticks; }
@@ -219,6 +222,7 @@ class Variable : public DDObject {
   bool isChecked_ = false;
   bool inRecursion_ = false;
   bool inReadRecursion_ = false;
+  mutable bool valueRead_ = false;
 };
 
 }  // namespace ZAFHartTypes

@@ -23,6 +23,10 @@ void DependencyFrame::Note(const Definition& item, ReadSort sort) {
   database_->InheritDependencies(object_, item);
 }
 
+void DependencyFrame::NoteOwnValue() {
+  if (database_) database_->AddDependent(object_, object_);
+}
+
 int DependencyFrame::Nesting(const DependencyFrame* innermost, const Definition& object) {
   int count = 0;
   for (const DependencyFrame* frame = innermost; frame; frame = frame->outer_) {

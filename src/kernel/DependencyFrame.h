@@ -34,6 +34,8 @@ class DependencyFrame {
   bool IsNoting() const { return database_ != nullptr; }
   // The object depends on the item, and on all that the item's own attributes were computed from.
   void Note(const ZAFHartTypes::Definition& item, ReadSort sort);
+  // The object depends on its own value.
+  void NoteOwnValue();
   // Something that was read has changed since: the result is stale as it is finished.
   bool IsOutdated() const { return outdated_; }
 

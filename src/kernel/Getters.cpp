@@ -45,6 +45,10 @@ void BeginComputing(DDObject&) {}
 void BeginComputing(Variable& variable) {
   variable.BeginAttributeComputation();
 }
+void NoteOwnValue(DependencyFrame&, const DDObject&) {}
+void NoteOwnValue(DependencyFrame& frame, const Variable& variable) {
+  if (variable.ValueWasRead()) frame.NoteOwnValue();
+}
 void BeginComputing(Menu& menu) {
   for (MenuItem& item : menu.Items()) LiftRestriction(item);
 }
@@ -91,6 +95,7 @@ void CHARTKernel::Compute(const Getter<View>& getter, Guard& guard, std::shared_
       object = ComputedBy(deviceModel_, getter, object);
     });
     guard.Run([&] { object = ComputedBy(internalModel_, getter, object); });
+    NoteOwnValue(frame, *object);
     guard.Leave(*object);
     guard.Run([&] { AfterComputing(*object); });
   }

@@ -31,9 +31,10 @@ void DependencyTable::Inherit(TextKey object, TextKey source,
   if (!node || object == source) return;
   const std::vector<TextKey> variables(node->variables.begin(), node->variables.end());
   for (const TextKey variable : variables) {
-    if (variable == object) continue;
     const std::uint8_t relations = nodes_[variable].objects[source];
-    if ((relations & kDependency) != 0) AddDependency(object, variable, isMissing(variable));
+    // An object whose own value is missing is computed all the same.
+    const bool awaits = (relations & kDependency) != 0 && variable != object;
+    if (awaits) AddDependency(object, variable, isMissing(variable));
     if ((relations & kDependent) != 0) AddDependent(object, variable);
   }
 }
