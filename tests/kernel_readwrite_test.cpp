@@ -252,6 +252,12 @@ TEST_F(KernelReadWrite, KeepsTheMarkOfAValueThatIsNewerThanTheOneSent) {
   kernel->WriteVariable(Var("a"), std::int16_t{9});
   EXPECT_EQ(Value("a"), 10);
   EXPECT_TRUE(Stored("a")->ToBeWritten());
+
+  comm->replies = false;  // nor does a failed write take it away
+  comm->whileWaiting = [&] { Set("a", std::int16_t{30}); };
+  kernel->WriteVariable(Var("a"), std::int16_t{20});
+  EXPECT_EQ(Value("a"), 30);
+  EXPECT_TRUE(Stored("a")->ToBeWritten());
 }
 
 TEST_F(KernelReadWrite, PassesAFailedExchangeOnFromAWriteAndSwallowsItInARead) {

@@ -76,6 +76,33 @@ TEST_F(KernelRelations, AnswerToTheUnitVariableThatTheComputationLeavesBehind) {
   EXPECT_THAT(Execute("u"), ElementsAre("unit a by w"));
   EXPECT_THAT(Execute("u"), IsEmpty());
   EXPECT_THAT(Execute("w"), ElementsAre("unit a by w"));
+  const int before = model->computed["u1"];
+  Execute("w");
+  Execute("w");
+  EXPECT_EQ(model->computed["u1"] - before, 2) << "afresh at every execution";
+}
+
+TEST_F(KernelRelations, NoticeAChangeWhileTheyGiveTheUnit) {
+  AddUnit("u1", "u", {"a"});
+  model->OnCompute<UnitRelation>("u1", [](IDDKernel& k, UnitRelation& relation) {
+    const bool odd = k.GetVariable(Var("mode"))->Value() == std::int16_t{1};
+    relation.SetUnitVariable(Var(odd ? "w" : "u"));
+  });
+  bool changes = false;
+  model->OnCompute<Variable>("a", [&](IDDKernel& k, Variable&) {
+    k.GetVariable(Var("b"));
+    if (std::exchange(changes, false)) Set("mode", std::int16_t{1});
+  });
+  Start();
+  recorded->SetTrackDependencies(true);
+  tracer->callBack->SetStackLevelFilter(0);
+  Execute("u");
+  Set("b", std::int16_t{1});  // a is to be computed again
+  changes = true;
+  Set("u", std::int16_t{5});
+  Execute("u");
+  EXPECT_FALSE(changes) << "computed while the unit was given";
+  EXPECT_THAT(Execute("w"), ElementsAre("unit a by w"));
 }
 
 TEST_F(KernelRelations, KeepAContextThatArrivesWhileTheyAreComputed) {
@@ -244,6 +271,8 @@ TEST_F(KernelWriteAsOne, RefusesOtherVariablesAndValuesOutOfRange) {
   EXPECT_EQ(Value("a"), 1);
   EXPECT_EQ(Stored("a")->ErrorIndex(), 5);
   EXPECT_EQ(Stored("a")->ErrorText(), "variable cannot be written (0 ... 99)");
+  EXPECT_FALSE(Stored("a")->IsChecked());
+  EXPECT_THAT(model->methodRuns, IsEmpty()) << "no post-edit actions";
 }
 
 }  // namespace
