@@ -22,7 +22,7 @@ void Floor_snprintf(benchmark::State& state) {
 BENCHMARK(Floor_snprintf);
 
 void FormatDDString(benchmark::State& state) {
-  ZAFHartLib::PromptValues values;
+  ZAFHartTypes::PromptValues values;
   values.Set("0", Variant("12.34"));
   values.Set("0LABEL", Variant("PV"));
   const std::string prompt = "Value: %[8.3f]{0} %[L]{0}";

@@ -13,6 +13,7 @@
 namespace ZAFHartLib {
 namespace {
 
+using ZAFHartTypes::PromptValues;
 using ZAFHartTypes::TypeCode;
 using ZAFHartTypes::TypeInfo;
 using ZAFHartTypes::Variant;

@@ -149,6 +149,7 @@ TEST_F(WorkerDbValues, OfSingleStorageVariablesArePassedOnAsCopies) {
     void Update(StorageMode, const std::shared_ptr<DDObject>& object) override {
       updates.push_back(object->MakeVariable());
     }
+    void UploadVariableValue(const Definition&, const Variant&) override {}
     std::vector<std::shared_ptr<Variable>> updates;
   };
   const auto storage = std::make_shared<Storage>();

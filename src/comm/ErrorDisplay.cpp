@@ -22,7 +22,7 @@ ZAFHartTypes::UserMessage MessageOf(ErrorSeverity severity) {
 }  // namespace
 
 bool ShowError(ZAFHartTypes::IDDDTMGUI& gui, ErrorSeverity severity, std::int32_t id,
-               const PromptValues& values) {
+               const ZAFHartTypes::PromptValues& values) {
   ZAFHartTypes::UserMessage message = MessageOf(severity);
   message.prompt = values.IsEmpty() ? ResText(id) : FormatDDString(ResText(id), values);
   const std::int32_t answer = gui.ShowUserMessage(message);

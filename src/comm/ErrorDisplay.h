@@ -3,7 +3,7 @@
 #include <cstdint>
 
 #include "interfaces/IDDDTMGUI.h"
-#include "text/PromptValues.h"
+#include "types/PromptValues.h"
 
 namespace ZAFHartLib {
 
@@ -16,6 +16,6 @@ enum class ErrorSeverity : std::uint8_t {
 // hides it again. True when the communication is to count as failed: always after a critical error,
 // otherwise when the user cancelled the message.
 bool ShowError(ZAFHartTypes::IDDDTMGUI& gui, ErrorSeverity severity, std::int32_t id,
-               const PromptValues& values = {});
+               const ZAFHartTypes::PromptValues& values = {});
 
 }  // namespace ZAFHartLib

@@ -28,6 +28,8 @@ class DataItem {
   DataItem& SetIsIndex(bool value = true);
   bool IsInfo() const { return isInfo_; }
   DataItem& SetIsInfo(bool value = true);
+  // A variable whose value the item sends or receives for storing.
+  bool CarriesValue() const { return IsVariable() && !isInfo_; }
   std::uint32_t Mask() const { return mask_; }
 
   const Variant& ConstantValue() const { return constant_; }

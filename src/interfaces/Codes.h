@@ -35,8 +35,12 @@ enum class MessageIcon : std::int32_t {
   Critical = 16,
   Question = 32,
   Exclamation = 48,
-  Information = 64
+  Information = 64,
+  Input = 80,  // asks for a value
 };
+
+// What a bit of a status byte leads to in a method.
+enum class StatusHandling : std::int32_t { Ignore = 0, Abort = 1, Retry = 2 };
 
 // Delay of a user message that waits for the user; other delays are seconds.
 inline constexpr std::int32_t kWaitForUser = -1;

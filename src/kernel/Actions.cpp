@@ -29,7 +29,7 @@ void CHARTKernel::RunItemActions(const char* name, ActionList list, DataItemList
   KernelOperation operation(*this, name, {{trace_tag::kReq, &items}});
   for (const DataItem& item : items) {
     const auto variable = item.Variable();
-    if (!item.IsVariable() || item.IsInfo() || !variable) continue;
+    if (!item.CarriesValue() || !variable) continue;
     if (variable->Actions(list).IsEmpty() && !operation.ShowsLevel()) continue;
     ExecuteActions(variable->Actions(list), variable);
   }

@@ -279,6 +279,7 @@ class CHARTKernel : public platform::Object,
   void ExecuteEditDisplayItem(const std::shared_ptr<EditDisplay>& field, bool isEntered);
   bool PrepareItems(const std::shared_ptr<EditDisplay>& display, EditItemList list,
                     std::initializer_list<ZAFHartTypes::ObjectKind> allowed);
+  std::shared_ptr<DDObject> ReturnEntry(KernelOperation& operation, const Definition& item);
   std::shared_ptr<DDObject> EntryOf(const Definition& item);
 
   ZAFHartTypes::ModelReference model_;

@@ -21,10 +21,6 @@ const DataItem* FindItem(const DataItemList& items, const Definition& variable) 
   return nullptr;
 }
 
-bool CarriesValue(const DataItem& item) {
-  return item.IsVariable() && !item.IsInfo();
-}
-
 bool SameValue(const Variant& a, const Variant& b) {
   return a == b || (a.IsNotFinite() && b.IsNotFinite());
 }
@@ -126,7 +122,7 @@ void CHARTKernel::Prepare(Execution& execution, Binding binding) {
   if (execution.IsWrite()) ExecutePreWrites(transaction.Request());
   if (execution.IsRead()) ExecutePreReads(transaction.Reply());
   for (DataItem& item : transaction.Request()) {
-    if (CarriesValue(item)) item.SetVariable(GetVariable(item.VariableDefinition()));
+    if (item.CarriesValue()) item.SetVariable(GetVariable(item.VariableDefinition()));
   }
 }
 
@@ -196,7 +192,7 @@ void CHARTKernel::Complete(Execution& execution) {
   if (execution.IsRead()) ExecutePostReads(transaction.Reply());
   EvaluateResponse(execution);
   for (const DataItem& item : transaction.Request()) {
-    if (CarriesValue(item) && item.Variable()->Available()) {
+    if (item.CarriesValue() && item.Variable()->Available()) {
       ExecuteRelations(item.VariableDefinition());
     }
   }
@@ -206,7 +202,7 @@ void CHARTKernel::Complete(Execution& execution) {
 void CHARTKernel::StoreWritten(Execution& execution) const {
   const auto database = Database();
   for (DataItem& item : execution.transaction->Request()) {
-    if (!CarriesValue(item)) continue;
+    if (!item.CarriesValue()) continue;
     const Definition& definition = item.VariableDefinition();
     const auto variable = item.Variable();
     const auto stored = Find<Variable>(definition);
@@ -225,7 +221,7 @@ void CHARTKernel::StoreWritten(Execution& execution) const {
 // A pending local change is not overwritten by the value read.
 void CHARTKernel::StoreRead(const Execution& execution) const {
   for (const DataItem& item : execution.transaction->Reply()) {
-    if (!CarriesValue(item) || execution.outrun.Contains(item.VariableDefinition())) continue;
+    if (!item.CarriesValue() || execution.outrun.Contains(item.VariableDefinition())) continue;
     if (execution.IsRead()) {
       const auto stored = Find<Variable>(item.VariableDefinition());
       if (stored && stored->ToBeWritten()) continue;
@@ -236,7 +232,7 @@ void CHARTKernel::StoreRead(const Execution& execution) const {
 
 void CHARTKernel::RefreshReply(DataItemList& reply) {
   for (DataItem& item : reply) {
-    if (!CarriesValue(item)) continue;
+    if (!item.CarriesValue()) continue;
     const Definition& definition = item.VariableDefinition();
     Database()->SetVariableAvailable(definition, item.Variable()->Available());
     item.SetVariable(GetVariable(definition));

@@ -10,7 +10,7 @@ namespace {
 
 void CollectValues(const DataItemList& items, std::vector<TextKey>& keys) {
   for (const DataItem& item : items) {
-    if (item.IsVariable() && !item.IsInfo()) keys.push_back(item.VariableDefinition().Key());
+    if (item.CarriesValue()) keys.push_back(item.VariableDefinition().Key());
   }
 }
 

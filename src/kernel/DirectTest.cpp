@@ -10,7 +10,7 @@ namespace {
 
 bool CarriesValueOf(const DataItemList& items, const Definition& searched) {
   return std::any_of(items.begin(), items.end(), [&](const DataItem& item) {
-    return item.IsVariable() && !item.IsInfo() && item.VariableDefinition().IsSameAs(searched);
+    return item.CarriesValue() && item.VariableDefinition().IsSameAs(searched);
   });
 }
 

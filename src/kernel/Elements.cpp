@@ -1,5 +1,7 @@
 // Elements of item arrays and members of collections.
 
+#include <algorithm>
+
 #include "kernel/KernelOperation.h"
 #include "kernel/KernelTemplates.h"
 
@@ -18,6 +20,13 @@ std::string TextOf(const Variant& value) {
   return text;
 }
 
+// The item of the first element that is wanted; empty when there is none.
+template <typename Elements, typename Wanted>
+Definition FindIn(const Elements& elements, const Wanted& isWanted) {
+  const auto found = std::ranges::find_if(elements, isWanted);
+  return found == elements.end() ? Definition() : found->definition;
+}
+
 }  // namespace
 
 std::shared_ptr<DDObject> CHARTKernel::ReadArrayElement(const std::shared_ptr<ItemArray>& array,
@@ -26,15 +35,10 @@ std::shared_ptr<DDObject> CHARTKernel::ReadArrayElement(const std::shared_ptr<It
   KernelOperation operation(*this, kOperation,
                             {{trace_tag::kObj, array}, {trace_tag::kIdx, index}});
   RequireObject(array, kOperation);
-  Definition item;
-  for (const ArrayElement& element : array->Elements()) {
-    if (!(Variant(element.index) == index)) continue;
-    item = element.definition;
-    break;
-  }
-  operation.Reads(item, ReadSort::Attributes);
-  const auto entry = item ? EntryOf(item) : nullptr;
-  return operation.Return(entry, entry ? kFound : kNotFound);
+  const Definition item = FindIn(array->Elements(), [&](const ArrayElement& element) {
+    return Variant(element.index) == index;
+  });
+  return ReturnEntry(operation, item);
 }
 
 std::shared_ptr<DDObject> CHARTKernel::ReadCollectionMember(
@@ -44,12 +48,13 @@ std::shared_ptr<DDObject> CHARTKernel::ReadCollectionMember(
                             {{trace_tag::kObj, collection}, {trace_tag::kIdx, ident}});
   RequireObject(collection, kOperation);
   const std::string name = TextOf(ident);
-  Definition item;
-  for (const CollectionMember& member : collection->Members()) {
-    if (member.name != name) continue;
-    item = member.definition;
-    break;
-  }
+  const Definition item = FindIn(
+      collection->Members(), [&](const CollectionMember& member) { return member.name == name; });
+  return ReturnEntry(operation, item);
+}
+
+std::shared_ptr<DDObject> CHARTKernel::ReturnEntry(KernelOperation& operation,
+                                                   const Definition& item) {
   operation.Reads(item, ReadSort::Attributes);
   const auto entry = item ? EntryOf(item) : nullptr;
   return operation.Return(entry, entry ? kFound : kNotFound);

@@ -25,7 +25,7 @@ void CHARTKernel::EvaluateResponse(const Execution& execution) {
   DefinitionList received;
   for (DataItem& item : reply) {
     const Definition& definition = item.VariableDefinition();
-    if (!item.IsVariable() || item.IsInfo() || definition.Kind() != ObjectKind::Variable) continue;
+    if (!item.CarriesValue() || definition.Kind() != ObjectKind::Variable) continue;
     received.Add(definition);
     if (RecordVerdict(definition, verdict)) item.Variable()->SetAvailable(true);
   }

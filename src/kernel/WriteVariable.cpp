@@ -136,7 +136,7 @@ void CHARTKernel::GiveUpRequest(const Definition& written, const CommandRef& com
   const auto database = Database();
   for (const DataItem& item : transaction->Request()) {
     const Definition& definition = item.VariableDefinition();
-    if (!item.IsVariable() || item.IsInfo() || item.IsIndex() || definition.IsSameAs(written) ||
+    if (!item.CarriesValue() || item.IsIndex() || definition.IsSameAs(written) ||
         (item.Variable() && IsOutrun(definition, item.Variable()->Value()))) {
       continue;
     }

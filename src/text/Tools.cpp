@@ -8,7 +8,8 @@
 
 namespace ZAFHartLib {
 
-std::string Tools::FormatDDString(const std::string& prompt, const PromptValues& colData) const {
+std::string Tools::FormatDDString(const std::string& prompt,
+                                  const ZAFHartTypes::PromptValues& colData) const {
   return ZAFHartLib::FormatDDString(prompt, colData);
 }
 

@@ -6,8 +6,8 @@
 #include "ddobjects/TypeInfo.h"
 #include "ddobjects/Variable.h"
 #include "platform/Object.h"
-#include "text/PromptValues.h"
 #include "text/TextHelpers.h"
+#include "types/PromptValues.h"
 #include "types/Variant.h"
 
 namespace ZAFHartLib {
@@ -17,7 +17,8 @@ namespace ZAFHartLib {
 class Tools : public platform::Object {
  public:
   // text/modDDPrintF.h
-  std::string FormatDDString(const std::string& prompt, const PromptValues& colData) const;
+  std::string FormatDDString(const std::string& prompt,
+                             const ZAFHartTypes::PromptValues& colData) const;
   // resources/ResText.h; "" for an unknown number.
   ZAFHartTypes::Variant AccessStandardString(std::int32_t id) const;
   // text/LangText.h; `strLangID` is converted to text.

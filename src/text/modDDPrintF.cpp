@@ -12,6 +12,7 @@
 namespace ZAFHartLib {
 namespace {
 
+using ZAFHartTypes::PromptValues;
 using ZAFHartTypes::Variant;
 
 constexpr std::string_view kLabelSuffix = "LABEL";

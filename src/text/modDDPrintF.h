@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "text/PromptValues.h"
+#include "types/PromptValues.h"
 
 namespace ZAFHartLib {
 
@@ -15,7 +15,7 @@ namespace ZAFHartLib {
 // Any other conversion, or none, shows the value's own text. Never fails: an unknown key and a
 // value that does not convert show nothing (a "%" right behind them is written), a malformed
 // reference stands as it is. Widths above kMostPlaces count as that.
-std::string FormatDDString(std::string_view prompt, const PromptValues& values);
+std::string FormatDDString(std::string_view prompt, const ZAFHartTypes::PromptValues& values);
 
 // Number as text of at least `width` characters, padded with blanks in front or, with `zero`, with
 // zeros behind the sign.

@@ -25,7 +25,7 @@ void CDDWorkerDB::SetComponentModel(const std::shared_ptr<IDDComponents>& compon
       componentFileName = information->ComponentFileName();
     }
   });
-  const std::string ownKey = std::string(kDtmsKey) + "\\" + DtmSettingsKey(componentFileName);
+  const std::string ownKey = DtmSettingsPath(componentFileName);
   disableUnitRecalculation_ = GetNumberSetting(ownKey, kDtmsKey, kDisableUnitRecalculation, 0) != 0;
 }
 

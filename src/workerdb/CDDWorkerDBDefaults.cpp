@@ -51,7 +51,9 @@ void CDDWorkerDB::LoadDefaults(const std::string& kernelClassName) {
   CIniCollection ini;
   const std::string file = ini.ApplicationToInifileName(information->ComponentFolder() + "\\" +
                                                         information->ComponentFileName());
-  ini.ReadIniFile(file, "Default", defaults_);
+  if (ini.ReadIniFile(file, "Default", defaults_)) return;
+  throw ZAFHartTypes::Failure(ZAFHartTypes::ErrorNumber::PathFileAccess,
+                              "CDDWorkerDB.InitDefaultData", "Cannot read \"" + file + "\".");
 }
 
 void CDDWorkerDB::SetDefaultsOfVariables() {

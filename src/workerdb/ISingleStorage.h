@@ -17,6 +17,9 @@ class ISingleStorage {
   // receiving database or its GUI manager pass.
   virtual void Update(ZAFHartTypes::StorageMode source,
                       const std::shared_ptr<ZAFHartTypes::DDObject>& object) = 0;
+  // Gives a value that was uploaded into the online data set to the offline one.
+  virtual void UploadVariableValue(const ZAFHartTypes::Definition& definition,
+                                   const ZAFHartTypes::Variant& value) = 0;
 };
 
 }  // namespace ZAFHartLib
