@@ -13,5 +13,6 @@ ExitCode RunRead(Session& session);
 ExitCode RunList(Session& session);
 ExitCode RunWatch(Session& session);
 ExitCode RunInfo(Session& session);
+ExitCode RunMenu(Session& session);
 
 }  // namespace hartframe

@@ -9,6 +9,7 @@ namespace {
 
 using Json = nlohmann::ordered_json;
 using ZAFHartTypes::AccessMode;
+using ZAFHartTypes::ObjectKind;
 using ZAFHartTypes::TypeCode;
 using ZAFHartTypes::Variable;
 using ZAFHartTypes::Variant;
@@ -71,11 +72,43 @@ Json RowsJson(std::span<const VariableRow> rows) {
   return json;
 }
 
+const char* KindName(ObjectKind kind) {
+  switch (kind) {
+    case ObjectKind::Variable:
+      return "variable";
+    case ObjectKind::Menu:
+      return "menu";
+    case ObjectKind::EditDisplay:
+      return "editDisplay";
+    case ObjectKind::Method:
+      return "method";
+    case ObjectKind::WriteAsOne:
+      return "writeAsOne";
+    default:
+      return "other";
+  }
+}
+
+Json MenuRowsJson(std::span<const MenuRow> rows) {
+  Json json = Json::array();
+  for (const MenuRow& row : rows) {
+    Json entry{{"kind", KindName(row.kind)},
+               {"name", row.name},
+               {"label", row.label},
+               {"readOnly", row.readOnly},
+               {"valid", row.valid}};
+    if (row.variable) entry["variable"] = RowJson(*row.variable);
+    if (row.kind == ObjectKind::WriteAsOne) entry["members"] = MenuRowsJson(row.members);
+    json.push_back(std::move(entry));
+  }
+  return json;
+}
+
 constexpr int kOneLine = -1;
 constexpr const char* kOutcomes[] = {"written",     "adjusted", "refused",
                                      "notAccepted", "noAnswer", "notAttempted"};
-constexpr const char* kCommands[] = {"upload", "download", "write", "read",
-                                     "list",   "watch",    "info",  "probe-plugin"};
+constexpr const char* kCommands[] = {"upload", "download", "write", "read",        "list",
+                                     "watch",  "info",     "menu",  "probe-plugin"};
 
 }  // namespace
 
@@ -131,6 +164,14 @@ void JsonReport::Facts(std::string_view section, const std::string&, std::span<c
   json = Json::object();
   for (const Fact& fact : facts)
     json[fact.key] = Json{{"label", fact.label}, {"value", fact.value}};
+}
+
+void JsonReport::Menu(const MenuView& view) {
+  Json& json = document_["menu"];
+  json = {{"kind", KindName(view.kind)}, {"name", view.name}, {"path", view.path}};
+  json["items"] = MenuRowsJson(view.items);
+  if (view.kind == ZAFHartTypes::ObjectKind::EditDisplay)
+    json["editItems"] = MenuRowsJson(view.editItems);
 }
 
 void JsonReport::Finish(ExitCode code) {

@@ -24,6 +24,7 @@ class JsonReport : public Report {
   void Pending(std::span<const VariableRow> rows) override;
   void Facts(std::string_view section, const std::string& title,
              std::span<const Fact> facts) override;
+  void Menu(const MenuView& view) override;
   void Finish(ExitCode code) override;
 
  private:

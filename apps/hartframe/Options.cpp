@@ -143,6 +143,14 @@ void AddCommands(CommandAdder& adder, Options& options) {
 
   adder.Add(CommandKind::Info, "info", "Show the DTM, the device's identity and the states");
 
+  CLI::App& menu =
+      adder.Add(CommandKind::Menu, "menu", "Show a menu or an edit display with its values");
+  menu.add_option(
+          "path", options.path,
+          "Labels or DD names from the root menus down, also as one text with \"/\" between "
+          "them; the beginning of a label will do (default: the root menus)")
+      ->type_name("PATH");
+
   // The program runs itself with this, to see whether a plug-in can be loaded at all.
   CLI::App& probe = adder.Add(CommandKind::ProbePlugin, "probe-plugin", "");
   probe.group("");

@@ -4,7 +4,17 @@ namespace hartframe {
 
 using ZAFHartTypes::AccessMode;
 using ZAFHartTypes::Definition;
+using ZAFHartTypes::ObjectKind;
 using ZAFHartTypes::Variable;
+
+namespace {
+
+void ComputeAttributes(ZAFHartTypes::IDDKernel& kernel, const Definition& definition) {
+  if (definition.Kind() == ObjectKind::Variable) kernel.GetVariable(definition);
+  if (definition.Kind() == ObjectKind::Method) kernel.GetMethod(definition);
+}
+
+}  // namespace
 
 ThoroughReader::ThoroughReader(Session& session)
     : session_(session),
@@ -13,16 +23,21 @@ ThoroughReader::ThoroughReader(Session& session)
 
 std::shared_ptr<Variable> ThoroughReader::Read(const Definition& definition) {
   started_.insert(definition.Key());
+  ReadConditions(definition);
   auto variable = session_.Variable(definition);
-  // Each read may change what the attributes depend on.
-  while (const Definition next = NextToRead(definition)) {
-    Read(next);
-    variable = session_.Variable(definition);
-  }
   if (session_.Interrupted()) return variable;
   variable = session_.Kernel().ReadVariable(definition);
   rows_.push_back(MakeRow(variable, session_.Say()));
   return variable;
+}
+
+void ThoroughReader::ReadConditions(const Definition& definition) {
+  ComputeAttributes(session_.Kernel(), definition);
+  // Each read may change what the attributes depend on.
+  while (const Definition next = NextToRead(definition)) {
+    Read(next);
+    ComputeAttributes(session_.Kernel(), definition);
+  }
 }
 
 Definition ThoroughReader::NextToRead(const Definition& object) {

@@ -17,6 +17,8 @@ class ThoroughReader {
 
   // The variable as it is afterwards; after Ctrl-C as it is then.
   std::shared_ptr<ZAFHartTypes::Variable> Read(const ZAFHartTypes::Definition& definition);
+  // Reads what the attributes of an item of any kind depend on, and not the item.
+  void ReadConditions(const ZAFHartTypes::Definition& definition);
   // Everything that was read, in that order.
   const std::vector<VariableRow>& Rows() const { return rows_; }
 

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "hartframe/ExitCode.h"
+#include "hartframe/MenuView.h"
 #include "hartframe/VariableRow.h"
 #include "interfaces/IDDDTMGUI.h"
 
@@ -47,6 +48,7 @@ class Report {
   // `section` names the group for machines, `title` for people.
   virtual void Facts(std::string_view section, const std::string& title,
                      std::span<const Fact> facts) = 0;
+  virtual void Menu(const MenuView& view) = 0;
   // The end of the run; nothing comes after it.
   virtual void Finish(ExitCode code) = 0;
 };

@@ -107,8 +107,12 @@ bool IsArgument(std::string_view text, std::size_t at) {
 }  // namespace
 
 std::string Speech::operator()(Text text, std::initializer_list<std::string_view> arguments) const {
-  const std::string pattern =
-      ZAFHartLib::LangText(kTexts.at(static_cast<std::size_t>(text)), language_);
+  return (*this)(kTexts.at(static_cast<std::size_t>(text)), arguments);
+}
+
+std::string Speech::operator()(std::string_view multilingual,
+                               std::initializer_list<std::string_view> arguments) const {
+  const std::string pattern = ZAFHartLib::LangText(multilingual, language_);
   std::string result;
   for (std::size_t at = 0; at < pattern.size(); ++at) {
     if (!IsArgument(pattern, at)) {

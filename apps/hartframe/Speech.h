@@ -90,6 +90,9 @@ class Speech {
   const std::string& Language() const { return language_; }
   // The text with {0}, {1}, … replaced by the arguments.
   std::string operator()(Text text, std::initializer_list<std::string_view> arguments = {}) const;
+  // The same of a multilingual text.
+  std::string operator()(std::string_view multilingual,
+                         std::initializer_list<std::string_view> arguments = {}) const;
   // The user's part of a multilingual text, without control characters and broken bytes.
   std::string Pick(std::string_view multilingual) const;
 

@@ -3,6 +3,7 @@
 #include <chrono>
 #include <ctime>
 
+#include "hartframe/MenuTexts.h"
 #include "platform/Platform.h"
 #include "types/Utf8.h"
 
@@ -43,6 +44,15 @@ std::string Indented(std::string_view text) {
     text.remove_prefix(end + 1);
   }
   return lines;
+}
+
+std::vector<std::string> MenuCells(const MenuRow& row, const char* indent, const Speech& speech) {
+  return {row.name,
+          indent + row.label,
+          row.variable ? row.variable->value : "",
+          row.variable ? row.variable->unit : "",
+          KindText(row.kind, speech),
+          StateText(row, speech)};
 }
 
 }  // namespace
@@ -104,6 +114,30 @@ void TextReport::Facts(std::string_view, const std::string& title, std::span<con
     const std::size_t gap = width - ZAFHartTypes::utf8::Length(fact.label) + 2;
     console_.Out("  " + fact.label + std::string(gap, ' ') + fact.value);
   }
+}
+
+void TextReport::Menu(const MenuView& view) {
+  std::string title;
+  for (const std::string& step : view.path) title += (title.empty() ? "" : " > ") + step;
+  if (!title.empty()) console_.Out(title);
+  if (view.items.empty() && view.editItems.empty()) console_.Out(speech_(texts::kEmptyMenu));
+  const bool isMenu = view.kind == ZAFHartTypes::ObjectKind::Menu;
+  MenuTable(isMenu ? "" : speech_(texts::kShownItems), view.items);
+  MenuTable(speech_(texts::kEditedItems), view.editItems);
+}
+
+void TextReport::MenuTable(const std::string& title, std::span<const MenuRow> rows) {
+  if (rows.empty()) return;
+  if (!title.empty()) console_.Out(title);
+  std::vector<std::vector<std::string>> cells;
+  for (const MenuRow& row : rows) {
+    cells.push_back(MenuCells(row, "", speech_));
+    for (const MenuRow& member : row.members) cells.push_back(MenuCells(member, "  ", speech_));
+  }
+  console_.Table(
+      {speech_(Text::ColumnName), speech_(Text::ColumnLabel), speech_(Text::ColumnValue),
+       speech_(Text::ColumnUnit), speech_(texts::kColumnKind), speech_(Text::ColumnState)},
+      cells);
 }
 
 void TextReport::Finish(ExitCode) {

@@ -23,9 +23,12 @@ class TextReport : public Report {
   void Pending(std::span<const VariableRow> rows) override;
   void Facts(std::string_view section, const std::string& title,
              std::span<const Fact> facts) override;
+  void Menu(const MenuView& view) override;
   void Finish(ExitCode code) override;
 
  private:
+  void MenuTable(const std::string& title, std::span<const MenuRow> rows);
+
   Console& console_;
   const Speech& speech_;
   std::map<std::pair<std::string, std::string>, int> messages_;  // how often each was shown

@@ -24,6 +24,8 @@ ExitCode RunCommand(Session& session) {
       return RunList(session);
     case CommandKind::Watch:
       return RunWatch(session);
+    case CommandKind::Menu:
+      return RunMenu(session);
     case CommandKind::Info:
     case CommandKind::ProbePlugin:
       break;
