@@ -185,9 +185,9 @@ TEST_F(AddressTest, ALongAddressThatCannotBeLearnt) {
 
 TEST(ErrorDisplay, SeverityAndAnswer) {
   struct AskingGui : StubGui {
-    std::int32_t ShowUserMessage(const UserMessage& message) override {
+    std::int32_t ShowUserMessage(UserMessage& message) override {
       shown = message;
-      return messageAnswer;
+      return StubGui::ShowUserMessage(message);
     }
     void HideUserMessage(std::int32_t id) override { hiddenId = id; }
     UserMessage shown;

@@ -51,7 +51,8 @@ TEST_F(ControlsTest, FailuresAreTracedOrPassedOn) {
   other->fails = true;
   gui->RegisterCtrl(other);
   gui->SetActiveControl(broken);
-  EXPECT_EQ(gui->ShowUserMessage({}), 0);
+  UserMessage message;
+  EXPECT_EQ(gui->ShowUserMessage(message), 0);
 }
 
 TEST_F(ControlsTest, AWalkLeavesOutControlsRemovedMeanwhile) {

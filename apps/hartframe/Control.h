@@ -28,7 +28,7 @@ class Control : public ZAFHartTypes::IDDDTMGUI {
   ZAFHartTypes::Variant GetObjectValue(const std::shared_ptr<ZAFHartTypes::DDObject>&) override {
     return {};
   }
-  std::int32_t ShowUserMessage(const ZAFHartTypes::UserMessage&) override { return 0; }
+  std::int32_t ShowUserMessage(ZAFHartTypes::UserMessage&) override { return 0; }
   void HideUserMessage(std::int32_t) override {}
   void LifeSignal(ZAFHartTypes::LifeSignalCode, const ZAFHartTypes::SignalObject&) override {}
   void StopCurrentEditing() override {}

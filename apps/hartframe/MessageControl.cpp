@@ -28,7 +28,7 @@ void Pause(std::int32_t seconds, const SignalWatch& signals) {
 
 }  // namespace
 
-std::int32_t MessageControl::ShowUserMessage(const UserMessage& message) {
+std::int32_t MessageControl::ShowUserMessage(UserMessage& message) {
   report_.Message(message);
   if (message.input && !AskFor(*message.input)) return ZAFHartTypes::kMessageCancelled;
   if (IsPause(message)) Pause(message.delay, signals_);

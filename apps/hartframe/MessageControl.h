@@ -15,7 +15,7 @@ class MessageControl : public Control {
   MessageControl(Report& report, Console& console, const Speech& speech, SignalWatch& signals)
       : report_(report), console_(console), speech_(speech), signals_(signals) {}
 
-  std::int32_t ShowUserMessage(const ZAFHartTypes::UserMessage& message) override;
+  std::int32_t ShowUserMessage(ZAFHartTypes::UserMessage& message) override;
 
  private:
   // Puts what the user types into the variable; false when he gives up.

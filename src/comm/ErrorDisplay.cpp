@@ -26,7 +26,7 @@ bool ShowError(ZAFHartTypes::IDDDTMGUI& gui, ErrorSeverity severity, std::int32_
   ZAFHartTypes::UserMessage message = MessageOf(severity);
   message.prompt = values.IsEmpty() ? ResText(id) : FormatDDString(ResText(id), values);
   const std::int32_t answer = gui.ShowUserMessage(message);
-  if (answer > 0) gui.HideUserMessage(answer);
+  if (message.displayId > 0) gui.HideUserMessage(message.displayId);
   return severity == ErrorSeverity::Critical || answer == ZAFHartTypes::kMessageCancelled;
 }
 

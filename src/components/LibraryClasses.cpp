@@ -1,5 +1,6 @@
 #include "components/LibraryClasses.h"
 
+#include "builtins/CDDBuiltinLib.h"
 #include "comm/CDDTestCommWrapper.h"
 #include "components/CDDComponents.h"
 #include "fdtobjects/CFDTDataModel.h"
@@ -29,6 +30,7 @@ void RegisterLibraryClasses(platform::ComponentClasses& classes) {
   Register<CHARTKernel>(classes, "ZAFHartLib.CHARTKernel");
   Register<CDDWorkerDB>(classes, "ZAFHartLib.CDDWorkerDB");
   Register<CDDDTMGUI>(classes, "ZAFHartLib.CDDDTMGUI");
+  Register<CDDBuiltinLib>(classes, "ZAFHartLib.CDDBuiltinLib");
   Register<CDDTestCommWrapper>(classes, "ZAFHartLib.CDDTestCommWrapper");
   Register<CFDTDataModel>(classes, "ZAFHartLib.CFDTDataModel");
   Register<CEmptyErrorHandler>(classes, "ZAFHartLib.CEmptyErrorHandler");

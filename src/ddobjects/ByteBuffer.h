@@ -2,6 +2,8 @@
 
 #include <cstdint>
 #include <span>
+#include <string>
+#include <string_view>
 #include <vector>
 
 namespace ZAFHartTypes {
@@ -20,6 +22,9 @@ class ByteBuffer {
   void SetItem(std::size_t index, std::uint8_t value);
   void Assign(std::span<const std::uint8_t> bytes) { bytes_.assign(bytes.begin(), bytes.end()); }
   const std::vector<std::uint8_t>& Bytes() const { return bytes_; }
+  // The bytes as a text in UTF-8.
+  void SetText(std::string_view text) { bytes_.assign(text.begin(), text.end()); }
+  std::string Text() const { return {bytes_.begin(), bytes_.end()}; }
 
  private:
   std::vector<std::uint8_t> bytes_;

@@ -85,7 +85,7 @@ class CDDDTMGUI : public platform::Object,
   ZAFHartTypes::Variant GetObjectValue(const Object& object) override;
   // Shown by the MessageControl, else the ActiveControl (with the texts as they are), else every
   // registered control. Texts are translated. Failures give 0.
-  std::int32_t ShowUserMessage(const ZAFHartTypes::UserMessage& message) override;
+  std::int32_t ShowUserMessage(ZAFHartTypes::UserMessage& message) override;
   void HideUserMessage(std::int32_t displayId) override;
   void LifeSignal(ZAFHartTypes::LifeSignalCode code,
                   const ZAFHartTypes::SignalObject& object) override;
@@ -121,7 +121,7 @@ class CDDDTMGUI : public platform::Object,
   // Nothing before Initialize and after tear-down.
   std::shared_ptr<ZAFHartTypes::IDDWorkerDB> Database() const;
   UserMessage Translated(const UserMessage& message) const;
-  std::int32_t AskAllForMessage(const UserMessage& message);
+  std::int32_t AskAllForMessage(UserMessage& message);
 
   // --- errors ---
   bool IsTraced() const { return tracer_ && tracer_->CheckConnection(); }

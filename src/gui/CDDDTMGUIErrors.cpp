@@ -68,7 +68,9 @@ std::int32_t CDDDTMGUI::ShowError(std::string title, std::string prompt, std::st
   message.title = std::move(title);
   message.prompt = std::move(prompt);
   message.help = std::move(help);
-  return ShowUserMessage(message);
+  const std::int32_t result = ShowUserMessage(message);
+  if (message.displayId > 0) HideUserMessage(message.displayId);
+  return result;
 }
 
 void CDDDTMGUI::SetLastResult(std::int32_t result) {
@@ -85,7 +87,7 @@ void CDDDTMGUI::EvaluationError(const std::string& message) {
     tracer_->TraceEvaluationError(
         Database(), std::string(kEvaluationErrorTitle) + ": " + message + kLineBreak + stackText);
   }
-  if (!handled) HideUserMessage(ShowError(kEvaluationErrorTitle, message, stackText));
+  if (!handled) ShowError(kEvaluationErrorTitle, message, stackText);
 }
 
 void CDDDTMGUI::ObjectError(const Object& object, ItemIndex index) {
@@ -140,7 +142,6 @@ void CDDDTMGUI::ReportToUser(ItemIndex index, const std::string& text,
   if (IsCyclic(index)) throw Failure(ErrorNumber::Unexpected, "CDDDTMGUI.ObjectError", text);
   const std::int32_t result = ShowError(Texts().Resource(idDDErrorCodes), text, stackText);
   if (index == ItemIndex::NoCommunication) SetLastResult(result);
-  if (result > 0) HideUserMessage(result);
 }
 
 void CDDDTMGUI::ResponseCodeError(const CommandStatus& status,
@@ -169,10 +170,8 @@ std::int32_t CDDDTMGUI::ReportResponse(const ErrorReport& report, const CommandR
                                                     stackText);
   }
   if (handled || !report.shown) return 0;
-  const std::int32_t result = ShowError(Texts().Resource(idTitleCommandError), report.text,
-                                        report.help + stackText, report.icon);
-  HideUserMessage(result);
-  return result;
+  return ShowError(Texts().Resource(idTitleCommandError), report.text, report.help + stackText,
+                   report.icon);
 }
 
 }  // namespace ZAFHartLib

@@ -80,30 +80,39 @@ CDDDTMGUI::UserMessage CDDDTMGUI::Translated(const UserMessage& message) const {
   return translated;
 }
 
-std::int32_t CDDDTMGUI::ShowUserMessage(const UserMessage& message) {
+std::int32_t CDDDTMGUI::ShowUserMessage(UserMessage& message) {
   std::int32_t result = 0;
-  const auto ask = [&](const Control& control, const UserMessage& shown) {
+  const auto ask = [&](const Control& control, UserMessage& shown) {
     result =
         platform::CallForeign("ShowUserMessage", [&] { return control->ShowUserMessage(shown); });
   };
   IgnoreFailures([&] {
-    if (const Control messageControl = messageControl_) {
-      ask(messageControl, Translated(message));
-    } else if (const Control activeControl = activeControl_) {
+    const Control messageControl = messageControl_;
+    const Control activeControl = activeControl_;
+    if (activeControl && !messageControl) {
       ask(activeControl, message);
-    } else {
-      result = AskAllForMessage(Translated(message));
+      return;
     }
+    UserMessage translated = Translated(message);
+    if (messageControl) {
+      ask(messageControl, translated);
+    } else {
+      result = AskAllForMessage(translated);
+    }
+    message.displayId = translated.displayId;
   });
   return result;
 }
 
-// The result of the control that showed it: those that do not show messages answer 0.
-std::int32_t CDDDTMGUI::AskAllForMessage(const UserMessage& message) {
+// The result of the control that showed it: those that do not show messages answer 0 and leave the
+// display as it is.
+std::int32_t CDDDTMGUI::AskAllForMessage(UserMessage& message) {
   std::int32_t result = 0;
   controls_.ForEach("IDDDTMGUI_ShowUserMessage", [&](CGUIObj&, IDDDTMGUI& control) {
-    const std::int32_t answer = control.ShowUserMessage(message);
+    UserMessage shown = message;
+    const std::int32_t answer = control.ShowUserMessage(shown);
     if (answer != 0) result = answer;
+    if (shown.displayId > 0) message.displayId = shown.displayId;
   });
   return result;
 }

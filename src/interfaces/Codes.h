@@ -46,6 +46,8 @@ enum class StatusHandling : std::int32_t { Ignore = 0, Abort = 1, Retry = 2 };
 inline constexpr std::int32_t kWaitForUser = -1;
 // Answer of a user message that the user cancelled.
 inline constexpr std::int32_t kMessageCancelled = -2;
+// Answer of a user message whose time has passed; 0 will do as well.
+inline constexpr std::int32_t kMessageTimedOut = -5;
 // Display id of a message that is not shown.
 inline constexpr std::int32_t kNoDisplay = -1;
 

@@ -21,8 +21,7 @@ class IDDComponents {
   // The kernel as seen through the error-trapping wrapper, or the kernel itself.
   virtual std::shared_ptr<IDDKernel> DDKernelExtension() const = 0;
   virtual std::shared_ptr<IKernelInformation> KernelInformation() const = 0;
-  // A new builtin library for one run of a method. Raises CannotCreateObject when its class is
-  // unknown.
+  // A new builtin library for one run of a method. `currentObject` may be replaced.
   virtual std::shared_ptr<IDDBuiltinLib> DDBuiltinLib(std::shared_ptr<DDObject>& currentObject,
                                                       const std::string& currentMethodName) = 0;
   virtual std::shared_ptr<IDDWorkerDB> DDWorkerDB() const = 0;

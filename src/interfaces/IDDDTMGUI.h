@@ -17,7 +17,9 @@ class IDDComponents;
 
 // A message to the user, or a request for his input.
 struct UserMessage {
-  std::int32_t displayId = 0;  // 0 or -1: a new display; otherwise the display to show it in
+  // 0 or -1: a new display; otherwise the display to show it in. A control that leaves the message
+  // on display puts its id, above 0, here.
+  std::int32_t displayId = kNoDisplay;
   MessageIcon icon = MessageIcon::None;
   std::string title;
   std::string prompt;
@@ -48,9 +50,9 @@ class IDDDTMGUI {
   virtual void EvaluationError(const std::string& message) = 0;
   // The edited value of a field, Null when the field holds no edit, empty when it is not asked.
   virtual Variant GetObjectValue(const std::shared_ptr<DDObject>& object) = 0;
-  // Shows a message and waits as its delay says. The result is its display id (above 0), 0, or
-  // kMessageCancelled when the user cancelled.
-  virtual std::int32_t ShowUserMessage(const UserMessage& message) = 0;
+  // Shows a message and waits as its delay says. The result is 0, kMessageTimedOut or
+  // kMessageCancelled. The user's input is set as the value of `message.input`.
+  virtual std::int32_t ShowUserMessage(UserMessage& message) = 0;
   virtual void HideUserMessage(std::int32_t displayId) = 0;
   virtual void LifeSignal(LifeSignalCode code, const SignalObject& object) = 0;
   // Ends the edit of the field that has the user's attention, as if he had left it.

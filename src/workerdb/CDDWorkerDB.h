@@ -189,6 +189,10 @@ class CDDWorkerDB : public platform::Object,
   // Reads the variable through the kernel; the first time since the last save or restore, its state
   // is kept.
   std::shared_ptr<Variable> ReadForMethod(const Definition& definition);
+  // A state of the variable is kept.
+  bool KeepsForMethod(const Definition& definition) const {
+    return savedValues_.Contains(definition.Key());
+  }
   // Keeps what was assigned to all variables touched, or to the listed ones.
   void SaveValues();
   void SaveValues(const DefinitionList& variables);
@@ -196,6 +200,9 @@ class CDDWorkerDB : public platform::Object,
   // variables are skipped.
   void RestoreValues();
   void RestoreValues(const DefinitionList& variables);
+  // Puts a state back that somebody else has kept, a Copy(). A value that the device has given or
+  // taken meanwhile is to be read again.
+  void Restore(const std::shared_ptr<Variable>& kept);
 
  private:
   struct Entry {
@@ -278,7 +285,6 @@ class CDDWorkerDB : public platform::Object,
   bool RecalculateForUnit(Variable& receiving, const Variable& unit, const std::string& unitText);
   Variant Converted(const Variable& variable, const std::string& newUnitText) const;
 
-  void Restore(const std::shared_ptr<Variable>& kept);
   DefinitionList SavedDefinitions() const;
 
   ZAFHartTypes::ModelReference model_;

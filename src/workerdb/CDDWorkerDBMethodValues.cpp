@@ -43,13 +43,24 @@ DefinitionList CDDWorkerDB::SavedDefinitions() const {
   return definitions;
 }
 
+namespace {
+
+// The device may have another value than the kept one: a value that differs and is not to be
+// written came from the device or was sent to it, and one that is no longer available was given up.
+bool IsOutdated(const Variable& kept, const Variable& stored) {
+  if (stored.Attributes().IsLibraryHeld() || stored.ToBeWritten()) return false;
+  return !stored.Available() || Differ(kept.Value(), stored.Value());
+}
+
+}  // namespace
+
 // The value was not assigned by anybody, so that it is never sent to the device, and is as old as
 // it was. Attributes are computed anew: what they depend on may have changed for good.
 void CDDWorkerDB::Restore(const std::shared_ptr<Variable>& kept) {
   const Definition& definition = kept->Definition();
   Variable* stored = Stored<Variable>(definition);
   if (!stored || kept->HasSameState(*stored)) return;
-  const bool available = kept->Available();
+  const bool available = kept->Available() && !IsOutdated(*kept, *stored);
   const bool toBeWritten = kept->ToBeWritten();
   const Variant value = kept->Value();
   WriteObject(kept);

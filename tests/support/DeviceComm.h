@@ -38,6 +38,7 @@ class DeviceComm : public StubComm {
 
   std::map<std::string, Variant> memory;
   std::vector<std::uint8_t> firstBytes;  // of the coming replies, then 0
+  std::uint8_t deviceStatus = 0;
   bool replies = true;
   std::string recordedError;           // on every reply variable
   std::function<void()> whileWaiting;  // runs once
@@ -54,6 +55,7 @@ class DeviceComm : public StubComm {
     lastResult = replies ? 0 : -3;
     lastStatus = replies ? CommandStatus{} : CommandStatus{0, 144, 0};
     if (!replies) return;
+    lastStatus.device = deviceStatus;
     std::uint8_t first = 0;
     if (!firstBytes.empty()) {
       first = firstBytes.front();
@@ -84,7 +86,7 @@ class DeviceComm : public StubComm {
   }
   void FillReply(DataItem& item, std::size_t position, std::uint8_t first) {
     if (position <= 2) {
-      item.SetValue(position == 1 ? first : std::uint8_t{0});
+      item.SetValue(position == 1 ? first : deviceStatus);
       return;
     }
     const auto found = memory.find(item.VariableDefinition().Name());

@@ -36,7 +36,7 @@ class RecordingControl : public StubGui,
     StubGui::HideObject(object);
     Called("HideObject " + object->ObjectDefinition().Name());
   }
-  std::int32_t ShowUserMessage(const UserMessage& message) override {
+  std::int32_t ShowUserMessage(UserMessage& message) override {
     userMessages.push_back(message);
     Called("ShowUserMessage");
     return StubGui::ShowUserMessage(message);

@@ -33,8 +33,9 @@ class StubGui : public IDDDTMGUI {
   }
   void EvaluationError(const std::string& message) override { evaluationErrors.push_back(message); }
   Variant GetObjectValue(const std::shared_ptr<DDObject>&) override { return editedValue; }
-  std::int32_t ShowUserMessage(const UserMessage& message) override {
+  std::int32_t ShowUserMessage(UserMessage& message) override {
     messages.push_back(message.prompt);
+    if (messageAnswer > 0) message.displayId = messageAnswer;
     return messageAnswer;
   }
   void HideUserMessage(std::int32_t) override {}

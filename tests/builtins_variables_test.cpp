@@ -1,0 +1,262 @@
+// Variables that a method reads and assigns, and the numbered functions.
+
+#include <bit>
+#include <cmath>
+#include <limits>
+
+#include "support/BuiltinsTest.h"
+
+namespace {
+
+using namespace test_support;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::SizeIs;
+
+class BuiltinVariables : public BuiltinsTest {
+ protected:
+  BuiltinVariables() {
+    for (const char* name : {"action", "inner"}) model->Add<Method>(name);
+    variable("c").EditActions(ActionList::PostRead).Add(Def("action", ObjectKind::Method));
+  }
+  Variable& variable(const char* name) {
+    for (const auto& object : model->objects) {
+      if (object->ObjectDefinition().Name() == name) return *object->MakeVariable();
+    }
+    throw std::logic_error(name);
+  }
+};
+
+TEST_F(BuiltinVariables, AssignmentsAreSeenAtOnceAndUndoneUnlessSaved) {
+  Start();
+  SetClean("c", std::int16_t{7});
+  Run([&](CDDBuiltinLib& lib) {
+    EXPECT_TRUE(lib.AssignInt("a", 5));
+    EXPECT_TRUE(lib.AssignFloat("n", 1.5F));
+    EXPECT_EQ(lib.LongValue("a"), 5);
+    EXPECT_EQ(lib.FvarValue("n"), 1.5);
+    EXPECT_TRUE(lib.AssignVar("c", "b"));
+    EXPECT_EQ(lib.IntValue("c"), 2);
+    EXPECT_EQ(Stored("n")->Value().Type(), VariantType::Single);
+    EXPECT_EQ(Stored("a")->Value().Type(), VariantType::Int32);
+    EXPECT_TRUE(Stored("a")->ToBeWritten());
+    EXPECT_EQ(lib.SaveValues(), 0);
+    EXPECT_TRUE(lib.AssignLong("a", 9));
+  });
+  EXPECT_EQ(Value("a"), 5);
+  EXPECT_EQ(Value("c"), 2);
+  Run([&](CDDBuiltinLib& lib) { EXPECT_TRUE(lib.Lassign("c", 8)); });
+  EXPECT_EQ(Value("c"), 2);
+}
+
+// A method that is run by another one does not undo what that one has assigned, and undoes its own.
+TEST_F(BuiltinVariables, OfAMethodWithinAMethodKeepApart) {
+  Start();
+  const auto inner = [this](bool saves) {
+    Run([&](CDDBuiltinLib& lib) {
+      EXPECT_EQ(lib.LongValue("a"), 5);
+      lib.AssignLong("a", 6);
+      if (saves) lib.SaveValues();
+    });
+  };
+  Run([&](CDDBuiltinLib& outer) {
+    outer.AssignLong("a", 5);
+    inner(false);
+    EXPECT_EQ(outer.LongValue("a"), 5);
+    EXPECT_TRUE(Stored("a")->ToBeWritten());
+    inner(true);
+    EXPECT_EQ(outer.LongValue("a"), 6);
+    outer.AssignLong("a", 7);
+  });
+  EXPECT_EQ(Value("a"), 6);
+}
+
+// What the device was given stands there: the old value is not shown as if it were the device's.
+TEST_F(BuiltinVariables, SentAndNotSavedAreReadAgain) {
+  Start();
+  kernel->ReadVariable(Var("a"));
+  Run([&](CDDBuiltinLib& lib) {
+    lib.AssignLong("a", 5);
+    EXPECT_EQ(lib.SendCommand(6), 0);
+  });
+  EXPECT_FALSE(Stored("a")->Available());
+  EXPECT_EQ(kernel->ReadVariable(Var("a"))->Value(), Variant(5));
+}
+
+TEST_F(BuiltinVariables, ThatAreNotDefinedAbortTheMethod) {
+  Start();
+  Run([&](CDDBuiltinLib& lib) {
+    EXPECT_EQ(lib.FloatValue("x"), 0);
+    EXPECT_TRUE(lib.IsAbort());
+    EXPECT_FALSE(lib.AssignDouble("x", 1));
+    EXPECT_EQ(lib.VARID("x"), -1);
+    EXPECT_EQ(lib.VARID("b"), 1);
+    EXPECT_EQ(lib.VARID("a"), 2);
+    EXPECT_EQ(lib.VARID("B"), 1);
+    EXPECT_TRUE(std::isnan(lib.FloatValue("___ZAF___NaN")));
+    EXPECT_EQ(std::bit_cast<std::uint32_t>(lib.NaNValue()), 0x7FA00000U);
+  });
+  const auto errors = TakeErrors();
+  ASSERT_THAT(errors, SizeIs(3));
+  EXPECT_THAT(errors[0], HasSubstr("Variable \"x\" not defined!"));
+}
+
+TEST_F(BuiltinVariables, AnActionReadsAndSetsItsOwn) {
+  Start();
+  SetClean("c", std::int16_t{7});
+  Run(
+      [&](CDDBuiltinLib& lib) {
+        EXPECT_EQ(lib.Igetval(), 7);
+        EXPECT_EQ(lib.Fsetval(2.5), 2.5);
+        EXPECT_EQ(lib.Fgetval(), 2.5);
+      },
+      Stored("c"), "action");
+  EXPECT_EQ(Stored("c")->Value(), Variant(2.5));
+  EXPECT_FALSE(Stored("c")->ToBeWritten());
+  EXPECT_TRUE(Stored("c")->Available());
+
+  Run([&](CDDBuiltinLib& lib) { EXPECT_EQ(lib.Lgetval(), 0); },
+      database->ReadObject(Def("method", ObjectKind::Method)));
+  EXPECT_THAT(TakeErrors(), IsEmpty());
+  Run(
+      [&](CDDBuiltinLib& lib) {
+        EXPECT_EQ(lib.Lsetval(3), 0);
+        EXPECT_TRUE(lib.IsAbort());
+      },
+      Stored("c"));
+  EXPECT_THAT(TakeErrors(), ElementsAre(HasSubstr("Wrong context!")));
+  EXPECT_EQ(Stored("c")->Value(), Variant(2.5));
+}
+
+// The variable that a method was started from is read again when the method's code changed it.
+TEST_F(BuiltinVariables, ChangedOnTheContextAreReadAgain) {
+  Start();
+  kernel->ReadVariable(Var("a"));
+  comm->sent.clear();
+  std::shared_ptr<DDObject> context = Stored("a");
+  {
+    CDDBuiltinLib lib;
+    lib.SetComponentModel(components);
+    lib.Initialize(context, "method");
+    Set("b", std::int16_t{4});  // somebody else's change is not taken for the method's
+  }
+  EXPECT_THAT(comm->sent, IsEmpty());
+  {
+    CDDBuiltinLib lib;
+    lib.SetComponentModel(components);
+    lib.Initialize(context, "method");
+    context->MakeVariable()->SetValue(std::int16_t{9});
+  }
+  EXPECT_THAT(comm->sent, SizeIs(1));
+  EXPECT_EQ(Value("a"), 1);
+}
+
+TEST_F(BuiltinVariables, Func1Calculates) {
+  constexpr double kInfinity = std::numeric_limits<double>::infinity();
+  struct {
+    std::int32_t id;
+    Variant argument;
+    Variant result;  // empty: the method is aborted
+  } const cases[] = {
+      {1000, 0.0, 1.0},
+      {1001, 0.0, 0.0},
+      {1002, 0.0, 0.0},
+      {1003, 1.0, 0.0},
+      {1004, 1.0, std::acos(0)},
+      {1003, 2.0, {}},
+      {1005, 0.0, 1.0},
+      {1006, 0.0, 0.0},
+      {1007, 0.0, 0.0},
+      {1008, 0.0, 1.0},
+      {1008, 1e4, {}},
+      {1009, 1.0, 0.0},
+      {1009, 0.0, {}},
+      {1010, 1000.0, 3.0},
+      {1011, 8.0, 3.0},
+      {1012, std::int16_t{-3}, std::int16_t{3}},
+      {1012, -2.5F, 2.5F},
+      {1012, std::int16_t{-32768}, {}},
+      {1013, 9.0, 3.0},
+      {1013, -1.0, {}},
+      {1014, 27.0, 3.0},
+      {1015, 1.2, 2.0},
+      {1016, 1.5, {}},
+      {1017, 2.5, std::int16_t{2}},
+      {1017, 1e5, {}},
+      {1018, -1.2, -2.0},
+      {1019, 0.0, 4},
+      {1019, std::nan(""), 3},
+      {1019, kInfinity, 2},
+      {1019, -0.5, 1},
+      {1020, "2", 2.0},
+      {1021, 4, 4.0},
+      {1009, "no", {}},
+      {77, 1.0, {}},
+  };
+  Start();
+  for (const auto& test : cases) {
+    SCOPED_TRACE(std::to_string(test.id) + " " + test.argument.Describe());
+    Run([&](CDDBuiltinLib& lib) {
+      const Variant result = lib.Func1(test.id, test.argument);
+      EXPECT_EQ(lib.IsAbort(), test.result.IsEmpty());
+      EXPECT_EQ(result.IsEmpty(), test.result.IsEmpty());
+      if (result.IsEmpty()) return;
+      EXPECT_NEAR(result.ToDouble(), test.result.ToDouble(), 1e-12);
+      EXPECT_TRUE(test.id != 1012 || result.Type() == test.result.Type());
+    });
+  }
+}
+
+TEST_F(BuiltinVariables, Func1RunsMethodsAndUploads) {
+  struct Storage : ZAFHartLib::ISingleStorage {
+    bool IsSingleStorageObject(const Definition&) const override { return false; }
+    void Update(StorageMode, const std::shared_ptr<DDObject>&) override {}
+    void UploadVariableValue(const Definition& definition, const Variant& value) override {
+      uploads.push_back(definition.Name() + "=" + value.ToText());
+    }
+    std::vector<std::string> uploads;
+  };
+  const auto storage = std::make_shared<Storage>();
+  Start();
+  database->SetSingleStorage(storage);
+  Run([&](CDDBuiltinLib& lib) {
+    EXPECT_EQ(lib.Func1(4001, "Inner"), Variant(true));
+    EXPECT_EQ(lib.Func1(4001, "nowhere"), Variant(false));
+    lib.Func1(4002, "b");
+    database->SetStorageMode(StorageMode::Online);
+    EXPECT_TRUE(lib.Func1(4002, "b").IsEmpty());
+    EXPECT_FALSE(lib.IsAbort());
+  });
+  EXPECT_THAT(model->methodRuns, ElementsAre("inner"));
+  EXPECT_THAT(storage->uploads, ElementsAre("b=2"));
+}
+
+TEST_F(BuiltinVariables, Func2AndUnits) {
+  Start();
+  Run([&](CDDBuiltinLib& lib) {
+    EXPECT_EQ(lib.Func2(1016, 2.5, 0), Variant(2.0));
+    EXPECT_EQ(lib.Func2(1016, 3.5, 0), Variant(4.0));
+    EXPECT_EQ(lib.Func2(1016, 1.25, 1), Variant(1.2));
+    EXPECT_EQ(lib.Func2(3000, "x", "x"), Variant(true));
+    EXPECT_EQ(lib.Func2(3000, "x", "X"), Variant(false));
+    EXPECT_EQ(lib.Func2(3001, "text", "hello"), Variant(true));
+    EXPECT_EQ(Stored("text")->Value(), Variant("hello"));
+    EXPECT_TRUE(lib.Func2(1, 1, 1).IsEmpty());
+    lib.SaveValues();
+    lib.AddUnit(32, 1, 0, "C", "");
+    lib.AddUnit(33, 1.8, 17.777777777777779, "F", "");
+    EXPECT_FALSE(lib.IsAbort());
+    lib.Func2(4000, "Broken: %{0}", std::vector<Variant>{lib.VARID("b")});
+    EXPECT_TRUE(lib.IsAbort());
+    EXPECT_THAT(messages->Take(), ElementsAre("16 -1 Test: Broken: 2"));
+    std::string text;
+    EXPECT_THROW(lib.GetDictionaryString("x", text), Failure);
+  });
+  auto degrees = Stored("n")->Copy();
+  degrees->SetValue(100.0);
+  degrees->SetUnitText("C");
+  EXPECT_NEAR(database->ConvertUnit(*degrees, "F"), 212, 1e-9);
+}
+
+}  // namespace
