@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "builtins/CDDBuiltinLib.h"
 #include "support/StubComponents.h"
 #include "workerdb/CDDWorkerDB.h"
 
@@ -161,20 +162,91 @@ TEST(DataModel, ListsCommandsAndRelations) {
   EXPECT_TRUE(units->DependentItems().Contains(VariableNamed("high")));
 }
 
-TEST(MethodBuilder, RunsItsBodyOnly) {
+// Runs abort methods; the one called "first" fails.
+class AbortingKernel : public ComputingKernel {
+ public:
+  void ExecuteMethod(const Definition& method, const std::shared_ptr<DDObject>&,
+                     bool inAbort) override {
+    runs += method.Name() + (inAbort ? " in abort; " : "; ");
+    if (method.Name() == "first") throw Failure(ErrorNumber::Unexpected, "AbortingKernel");
+  }
+  std::string runs;
+};
+
+struct WayOut {
+  const char* name;
+  MethodBody body;
+  std::string abortMethodsRun;
+  ErrorNumber raised{};
+};
+
+const std::string kBoth = "first in abort; second in abort; ";
+
+const WayOut kWaysOut[] = {
+    {"to its end", [](IDDBuiltinLib&) {}, ""},
+    {"aborted", [](IDDBuiltinLib& dd) { dd.Abort(); }, kBoth},
+    {"failed", [](IDDBuiltinLib&) { throw Failure(ErrorNumber::Cancelled, "test"); }, kBoth,
+     ErrorNumber::Cancelled},
+    {"user told", [](IDDBuiltinLib& dd) { dd.GetDevVarValue("", {}, "missing"); }, ""},
+    {"user told, guarded",
+     [](IDDBuiltinLib& dd) {
+       AbortGuard guard(dd, "second");
+       dd.GetDevVarValue("", {}, "missing");
+     },
+     "second in abort; "},
+    {"user not told",
+     [](IDDBuiltinLib& dd) {
+       AbortGuard guard(dd, "second");
+       std::string text;
+       dd.GetDictionaryString("", text);
+     },
+     kBoth, ErrorNumber::NotImplemented},
+    {"guard left behind", [](IDDBuiltinLib& dd) { AbortGuard guard(dd, "second"); }, kBoth},
+    {"guard done", [](IDDBuiltinLib& dd) { AbortGuard(dd, "third").Done(); }, ""},
+};
+
+TEST(MethodBody, IsEndedOnEveryWayOut) {
+  for (const auto& [name, body, abortMethodsRun, raised] : kWaysOut) {
+    SCOPED_TRACE(name);
+    DeviceDescription dd;
+    dd.Variable("level").Float().Default(2.5F);
+    dd.Method("test").Body([&body = body](IDDBuiltinLib& builtins) {
+      builtins.AddAbortMethod("first");
+      builtins.AddAbortMethod("second");
+      builtins.AssignFloat("level", 9);
+      body(builtins);
+    });
+    Instance instance(dd);
+    const auto kernel = std::make_shared<AbortingKernel>();
+    kernel->SetComponentModel(instance.components);
+    kernel->SetDataModel(instance.model);
+    instance.components->kernel = kernel;
+    const auto run = [&](bool inAbort) {
+      auto builtins = std::make_shared<ZAFHartLib::CDDBuiltinLib>();
+      builtins->SetComponentModel(instance.components);
+      instance.components->builtins = std::move(builtins);
+      ErrorNumber number{};
+      try {
+        instance.model->ExecuteMethodBody(*kernel, *instance.components, "TEST", {}, inAbort);
+      } catch (const Failure& failure) {
+        number = failure.Number();
+      }
+      EXPECT_EQ(number, raised);
+      EXPECT_EQ(instance.Get("level")->Value().ToDouble(), 2.5);  // undone
+    };
+    run(true);
+    EXPECT_EQ(kernel->runs, "");
+    run(false);
+    EXPECT_EQ(kernel->runs, abortMethodsRun);
+  }
+}
+
+TEST(MethodBuilder, DescribesValidity) {
   DeviceDescription dd;
-  std::vector<std::string> runs;
   dd.Variable("level").Float().Default(2.5F);
-  dd.Method("test")
-      .Body([&runs](Context& context, const std::shared_ptr<DDObject>& object, bool inAbort) {
-        runs.push_back(context.Text("level") + (object ? " with object" : "") +
-                       (inAbort ? " in abort" : ""));
-      })
-      .ValidWhen([](Context& context) { return context.Number("level") > 3; });
+  dd.Method("test").ValidWhen([](Context& context) { return context.Number("level") > 3; });
   Instance instance(dd);
-  instance.model->ExecuteMethodBody(*instance.kernel, *instance.components, "TEST", {}, true);
-  instance.model->ExecuteMethodBody(*instance.kernel, *instance.components, "level", {}, false);
-  EXPECT_EQ(runs, std::vector<std::string>{"2.5 in abort"});
+  instance.model->ExecuteMethodBody(*instance.kernel, *instance.components, "test", {}, false);
   const auto method = instance.Stored(MethodNamed("test"))->MakeMethod();
   EXPECT_FALSE(instance.model->ComputeMethodValidity(*instance.kernel, *instance.components, "test",
                                                      method));

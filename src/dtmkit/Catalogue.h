@@ -7,7 +7,7 @@
 #include <unordered_map>
 #include <vector>
 
-#include "dtmkit/Context.h"
+#include "dtmkit/MethodBody.h"
 
 namespace ZAFHartTypes::dtmkit {
 
@@ -15,9 +15,6 @@ namespace ZAFHartTypes::dtmkit {
 // where a variable's block is concerned, and from the last outcome of all else.
 template <typename Item>
 using Computation = std::function<void(Context&, Item&)>;
-// A method's body; `object` is what it was started from.
-using MethodBody =
-    std::function<void(Context&, const std::shared_ptr<DDObject>& object, bool inAbort)>;
 
 // All items of one device type, made once per process: a prototype of every object and the
 // functions that compute what depends on values. Each DTM instance gets copies of the prototypes,

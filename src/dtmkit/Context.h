@@ -32,8 +32,8 @@ class Context {
   std::string Text(const VariableName& name) const { return Value(name).ToText(); }
   bool IsValid(const VariableName& name) const { return VariableOf(name)->Validity(); }
   // Like Value, but a value that is not available is read from the device first: the message loop
-  // runs meanwhile. For method bodies; a computation that uses it makes every look-up of its item
-  // one that may wait for the device.
+  // runs meanwhile. A computation that uses it makes every look-up of its item one that may wait
+  // for the device.
   Variant ReadValue(const VariableName& name) const { return kernel_.ReadVariable(name)->Value(); }
 
   // The element of that index; an empty definition when the array has none.

@@ -122,7 +122,7 @@ void DataModelBase::ExecuteMethodBody(IDDKernel& kernel, IDDComponents& componen
   const MethodBody* body = catalogue_.Body(name);
   if (!body) return;
   Context surroundings(kernel, components);
-  (*body)(surroundings, context, inAbort);
+  RunMethod(surroundings, name, *body, std::move(context), inAbort);
 }
 
 bool DataModelBase::ComputeMethodValidity(IDDKernel& kernel, IDDComponents& components,

@@ -5,7 +5,8 @@
 //   DeviceDescription     the words for the items of a device description
 //   DataModelBase         makes them an IDDDataModel
 //   KernelInformationBase standard names and the place of the component file
-//   Context               what conditions, computations and method bodies see
+//   Context               what conditions and computations see
+//   MethodBody            the code of a method
 //   ZAF_DTM_PLUGIN        makes it a plug-in
 #include "dtmkit/Context.h"
 #include "dtmkit/DataModelBase.h"

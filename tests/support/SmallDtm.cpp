@@ -84,7 +84,7 @@ const DeviceDescription& Description(std::vector<std::string>*& log) {
         .ReadOnlyVariables({"locked"});
     for (const char* name : {"__ZAF__pre_upload", "__ZAF__post_upload", "__ZAF__pre_download",
                              "__ZAF__post_download"}) {
-      dd->Method(name).Body([name](dtmkit::Context&, const std::shared_ptr<DDObject>&, bool) {
+      dd->Method(name).Body([name](IDDBuiltinLib&) {
         if (currentLog) currentLog->emplace_back(name);
       });
     }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <utility>
+
 #include "interfaces/IDDComponents.h"
 #include "support/StubGui.h"
 #include "support/StubKernel.h"
@@ -67,7 +69,7 @@ class StubComponents : public IDDComponents, public std::enable_shared_from_this
   std::shared_ptr<IKernelInformation> KernelInformation() const override { return information; }
   std::shared_ptr<IDDBuiltinLib> DDBuiltinLib(std::shared_ptr<DDObject>&,
                                               const std::string&) override {
-    return builtins;
+    return std::exchange(builtins, nullptr);
   }
   std::shared_ptr<IDDWorkerDB> DDWorkerDB() const override { return database; }
   std::shared_ptr<IDDDTMGUI> DDGUI() const override { return gui; }
@@ -79,7 +81,7 @@ class StubComponents : public IDDComponents, public std::enable_shared_from_this
   std::shared_ptr<IDDKernel> kernel = std::make_shared<StubKernel>();
   std::shared_ptr<IDDKernel> kernelExtension;
   std::shared_ptr<IKernelInformation> information = std::make_shared<StubInformation>();
-  std::shared_ptr<IDDBuiltinLib> builtins;
+  std::shared_ptr<IDDBuiltinLib> builtins;  // for the next method
   std::shared_ptr<IDDWorkerDB> database;
   std::shared_ptr<IDDDTMGUI> gui = std::make_shared<StubGui>();
   std::shared_ptr<IDDCommWrapper> comm = std::make_shared<StubComm>();
