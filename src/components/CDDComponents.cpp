@@ -1,5 +1,6 @@
 #include "components/CDDComponents.h"
 
+#include "components/COptDataReader.h"
 #include "components/UploadOperation.h"
 #include "components/WriteOperations.h"
 #include "gui/CDDDTMGUI.h"
@@ -29,6 +30,7 @@ void CDDComponents::Initialize(bool secureKernel) {
   CreateComponents(secureKernel);
   LoadDataModel();
   ChooseUploadMenu();
+  ConfigureOptimization();
 }
 
 void CDDComponents::CreateComponents(bool secureKernel) {
@@ -71,6 +73,16 @@ void CDDComponents::ChooseUploadMenu() {
     if (information_)
       upDownloadMenuName_ = information_->StandardName(StandardName::UploadVariables);
   });
+}
+
+void CDDComponents::ConfigureOptimization() {
+  constexpr std::int32_t kAlways = -1;  // passes every filter
+  COptDataReader reader;
+  reader.ConfigureOptimization(*this);
+  if (reader.ErrorReport().empty()) return;
+  if (const auto trace = gui_->TraceObject()) {
+    trace->TraceText(kAlways, "Errors reading optimization data: \r\n" + reader.ErrorReport());
+  }
 }
 
 void CDDComponents::RequireRunning() const {

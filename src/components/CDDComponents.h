@@ -103,6 +103,7 @@ class CDDComponents : public platform::Object,
   void CreateComponents(bool secureKernel);
   void LoadDataModel();
   void ChooseUploadMenu();
+  void ConfigureOptimization();
   // Raises ObjectNotSet once the instance has been torn down.
   void RequireRunning() const;
   void DetachComponents();

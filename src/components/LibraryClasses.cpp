@@ -3,6 +3,7 @@
 #include "builtins/CDDBuiltinLib.h"
 #include "comm/CDDTestCommWrapper.h"
 #include "components/CDDComponents.h"
+#include "components/CSecureKernel.h"
 #include "fdtobjects/CFDTDataModel.h"
 #include "gui/CDDDTMGUI.h"
 #include "kernel/CHARTKernel.h"
@@ -30,6 +31,7 @@ void RegisterLibraryClasses(platform::ComponentClasses& classes) {
   Register<CHARTKernel>(classes, "ZAFHartLib.CHARTKernel");
   Register<CDDWorkerDB>(classes, "ZAFHartLib.CDDWorkerDB");
   Register<CDDDTMGUI>(classes, "ZAFHartLib.CDDDTMGUI");
+  Register<CSecureKernel>(classes, "ZAFHartLib.CSecureKernel");
   Register<CDDBuiltinLib>(classes, "ZAFHartLib.CDDBuiltinLib");
   Register<CDDTestCommWrapper>(classes, "ZAFHartLib.CDDTestCommWrapper");
   Register<CFDTDataModel>(classes, "ZAFHartLib.CFDTDataModel");
