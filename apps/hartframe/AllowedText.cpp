@@ -1,6 +1,7 @@
 #include <string>
 
 #include "ddobjects/ItemArray.h"
+#include "hartframe/MethodTexts.h"
 #include "hartframe/ValueText.h"
 #include "hartframe/VariableRow.h"
 #include "platform/Platform.h"
@@ -75,6 +76,7 @@ std::string AllowedText(const Variable& variable, const Speech& speech) {
     case TypeCode::Ascii:
     case TypeCode::Password:
     case TypeCode::BitString:
+      if (type.Size() <= 0) return speech(texts::kAllowedAnyText);
       return speech(Text::AllowedLength, {std::to_string(type.Size())});
     case TypeCode::Date:
     case TypeCode::Time:

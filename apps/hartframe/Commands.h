@@ -14,5 +14,6 @@ ExitCode RunList(Session& session);
 ExitCode RunWatch(Session& session);
 ExitCode RunInfo(Session& session);
 ExitCode RunMenu(Session& session);
+ExitCode RunMethod(Session& session);
 
 }  // namespace hartframe

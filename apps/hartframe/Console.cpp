@@ -98,6 +98,15 @@ void Console::Progress(const std::string& title, double percent) {
   }
 }
 
+void Console::Status(std::string_view line) {
+  if (!errorIsTerminal_ || line == status_) return;
+  EraseBar();
+  status_ = line;
+  if (line.empty()) return;
+  Print(stderr, line);
+  barShown_ = true;
+}
+
 std::optional<std::string> Console::Ask(std::string_view question) {
   if (!canAsk_) return std::nullopt;
   EraseBar();
@@ -120,6 +129,7 @@ void Console::EraseBar() {
   if (!barShown_) return;
   Print(stderr, "\r\033[K");
   barShown_ = false;
+  status_.clear();
 }
 
 }  // namespace hartframe

@@ -25,6 +25,8 @@ class Console {
   // Shows how far something is, 0 to 100: a bar that is drawn over on a terminal, a line each
   // quarter in a pipe. Below 0 ends it.
   void Progress(const std::string& title, double percent);
+  // Shows a line that the next one draws over, on a terminal; "" ends it.
+  void Status(std::string_view line);
   // The answer without its line end; nothing when there is nobody to ask, at the end of the input
   // and after Ctrl-C.
   std::optional<std::string> Ask(std::string_view question);
@@ -35,6 +37,7 @@ class Console {
   bool canAsk_;
   bool errorIsTerminal_;
   bool barShown_ = false;
+  std::string status_;
   int lastShown_ = -1;  // percent on a terminal, quarter in a pipe
 };
 

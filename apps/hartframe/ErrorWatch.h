@@ -15,14 +15,23 @@ class ErrorWatch : public ZAFHartTypes::IDDErrorHandler {
                            ZAFHartTypes::ItemIndex index) override;
   std::int32_t ResponseCodeError(const ZAFHartTypes::CommandStatus& status,
                                  const std::shared_ptr<ZAFHartTypes::CommandRef>& command) override;
-  std::int32_t EvaluationError(const std::string&) override { return 0; }
+  std::int32_t EvaluationError(const std::string& message) override {
+    evaluationError_ = message;
+    return 0;
+  }
 
   // How the write of the variable failed; Trouble::None when it did not.
   Trouble WriteTrouble(const ZAFHartTypes::Definition& definition) const;
-  void Forget() { writes_.clear(); }
+  // Since Forget: the last error of the DD's own code ("" without one), and whether the device did
+  // not answer to a request.
+  const std::string& EvaluationErrorText() const { return evaluationError_; }
+  bool HadNoAnswer() const { return hadNoAnswer_; }
+  void Forget() { *this = {}; }
 
  private:
   std::map<std::string, Trouble> writes_;  // by folded name
+  std::string evaluationError_;
+  bool hadNoAnswer_ = false;
 };
 
 }  // namespace hartframe

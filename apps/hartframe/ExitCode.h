@@ -16,7 +16,10 @@ enum class ExitCode {
   ValueRefused = 4,    // a value that the variable does not accept
   DtmNotLoadable = 5,  // plug-in missing, crashing or of another version
   FileBroken = 6,      // device file or file of pending changes
-  NotAllowed = 7,      // the user level forbids it, or pending changes would be lost
+  NotAllowed = 7,      // by user level or validity, or pending changes would be lost
+  MethodAborted = 8,   // by the user, by a status of the device, or by itself
+  AnswerRefused = 9,   // an answer to a method is missing or not accepted; it was aborted
+  MethodFailed = 10,   // a failure ended the method
   Internal = 70,       // a failure that should not be
   Interrupted = 130,   // Ctrl-C
 };

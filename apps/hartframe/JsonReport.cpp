@@ -1,5 +1,6 @@
 #include "hartframe/JsonReport.h"
 
+#include "hartframe/TextReport.h"
 #include "hartframe/ValueText.h"
 #include "types/Failure.h"
 
@@ -107,8 +108,8 @@ Json MenuRowsJson(std::span<const MenuRow> rows) {
 constexpr int kOneLine = -1;
 constexpr const char* kOutcomes[] = {"written",     "adjusted", "refused",
                                      "notAccepted", "noAnswer", "notAttempted"};
-constexpr const char* kCommands[] = {"upload", "download", "write", "read",        "list",
-                                     "watch",  "info",     "menu",  "probe-plugin"};
+constexpr const char* kCommands[] = {"upload", "download", "write", "read", "list",
+                                     "watch",  "info",     "menu",  "run",  "probe-plugin"};
 
 }  // namespace
 
@@ -123,6 +124,15 @@ void JsonReport::Message(const ZAFHartTypes::UserMessage& message) {
                                    {"title", message.title},
                                    {"prompt", message.prompt},
                                    {"help", message.help}});
+}
+
+void JsonReport::Prompt(const ZAFHartTypes::UserMessage& message) {
+  Message(message);
+  if (console_.CanAsk()) console_.Error(MessageText(message));
+}
+
+void JsonReport::Answer(const std::string& answer) {
+  document_["messages"].back()["answer"] = answer;
 }
 
 void JsonReport::Note(std::string_view code, const std::string& sentence) {

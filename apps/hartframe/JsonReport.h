@@ -16,6 +16,8 @@ class JsonReport : public Report {
   JsonReport(Console& console, const Options& options);
 
   void Message(const ZAFHartTypes::UserMessage& message) override;
+  void Prompt(const ZAFHartTypes::UserMessage& message) override;
+  void Answer(const std::string& answer) override;
   void Note(std::string_view code, const std::string& sentence) override;
   void Problem(std::string_view code, const std::string& sentence) override;
   void Variables(std::span<const VariableRow> rows) override;

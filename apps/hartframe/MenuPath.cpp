@@ -35,34 +35,6 @@ bool BeginsWith(std::string_view multilingual, std::string_view folded, const st
   return ZAFHartTypes::FoldCase(ZAFHartLib::LangText(multilingual, lang)).starts_with(folded);
 }
 
-std::vector<MenuEntry> Matching(const Speech& say, const std::vector<MenuEntry>& entries,
-                                std::string_view step) {
-  for (const MenuEntry& entry : entries) {
-    if (ZAFHartTypes::SameKey(entry.definition.Name(), step)) return {entry};
-  }
-  for (const MenuEntry& entry : entries) {
-    if (HasSegment(entry.label, step)) return {entry};
-  }
-  std::vector<MenuEntry> matching;
-  const std::string folded = ZAFHartTypes::FoldCase(step);
-  for (const MenuEntry& entry : entries) {
-    const bool known = std::any_of(
-        matching.begin(), matching.end(),
-        [&entry](const MenuEntry& other) { return other.definition.IsSameAs(entry.definition); });
-    if (!known && !step.empty() &&
-        (BeginsWith(entry.label, folded, say.Language()) || BeginsWith(entry.label, folded, "en")))
-      matching.push_back(entry);
-  }
-  return matching;
-}
-
-std::string Listed(const Speech& say, const std::vector<MenuEntry>& entries) {
-  std::string list;
-  for (const MenuEntry& entry : entries)
-    list += (list.empty() ? "\"" : ", \"") + say.Pick(entry.label) + '"';
-  return list;
-}
-
 [[noreturn]] void Refuse(const std::string& sentence) {
   throw CommandFailure(ExitCode::Usage, sentence);
 }
@@ -88,11 +60,11 @@ class Walk {
  private:
   bool Step(std::string_view step) {
     Open();
-    std::vector<MenuEntry> matching = Matching(session_.Say(), entries_, step);
+    std::vector<MenuEntry> matching = MatchingEntries(session_.Say(), entries_, step);
     if (matching.empty() && !place_.entry.definition) matching = ByName(step);
     if (matching.size() > 1) {
-      Refuse(
-          session_.Say()(texts::kAmbiguousItem, {OneLine(step), Listed(session_.Say(), matching)}));
+      Refuse(session_.Say()(texts::kAmbiguousItem,
+                            {OneLine(step), ListEntries(session_.Say(), matching)}));
     }
     if (matching.empty()) return false;
     Enter(matching.front());
@@ -129,8 +101,8 @@ class Walk {
   [[noreturn]] void RefuseUnknown(std::string_view text) {
     const std::string step = OneLine(text.substr(0, text.find('/')));
     const Speech& say = session_.Say();
-    if (place_.labels.empty()) Refuse(say(texts::kUnknownMenu, {step, Listed(say, entries_)}));
-    Refuse(say(texts::kUnknownItem, {step, place_.labels.back(), Listed(say, entries_)}));
+    if (place_.labels.empty()) Refuse(say(texts::kUnknownMenu, {step, ListEntries(say, entries_)}));
+    Refuse(say(texts::kUnknownItem, {step, place_.labels.back(), ListEntries(say, entries_)}));
   }
 
   Session& session_;
@@ -148,6 +120,34 @@ std::string MultilingualLabel(ZAFHartTypes::DDObject& object) {
   if (const auto display = object.MakeEditDisplay()) label = display->Label();
   if (const auto method = object.MakeMethod()) label = method->Label();
   return label.empty() ? object.ObjectDefinition().Name() : label;
+}
+
+std::vector<MenuEntry> MatchingEntries(const Speech& say, const std::vector<MenuEntry>& entries,
+                                       std::string_view step) {
+  for (const MenuEntry& entry : entries) {
+    if (ZAFHartTypes::SameKey(entry.definition.Name(), step)) return {entry};
+  }
+  for (const MenuEntry& entry : entries) {
+    if (HasSegment(entry.label, step)) return {entry};
+  }
+  std::vector<MenuEntry> matching;
+  const std::string folded = ZAFHartTypes::FoldCase(step);
+  for (const MenuEntry& entry : entries) {
+    const bool known = std::any_of(
+        matching.begin(), matching.end(),
+        [&entry](const MenuEntry& other) { return other.definition.IsSameAs(entry.definition); });
+    if (!known && !step.empty() &&
+        (BeginsWith(entry.label, folded, say.Language()) || BeginsWith(entry.label, folded, "en")))
+      matching.push_back(entry);
+  }
+  return matching;
+}
+
+std::string ListEntries(const Speech& say, const std::vector<MenuEntry>& entries) {
+  std::string list;
+  for (const MenuEntry& entry : entries)
+    list += (list.empty() ? "\"" : ", \"") + say.Pick(entry.label) + '"';
+  return list;
 }
 
 std::vector<MenuEntry> RootMenus(Session& session) {

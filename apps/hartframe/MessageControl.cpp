@@ -1,8 +1,7 @@
 #include "hartframe/MessageControl.h"
 
-#include "hartframe/ValueText.h"
+#include "hartframe/InputQuestion.h"
 #include "platform/Platform.h"
-#include "types/Failure.h"
 
 namespace hartframe {
 
@@ -10,7 +9,6 @@ namespace {
 
 using ZAFHartTypes::MessageIcon;
 using ZAFHartTypes::UserMessage;
-using ZAFHartTypes::Variant;
 
 // A message with a time that tells that something takes time, as opposed to one that goes away by
 // itself after that time.
@@ -30,22 +28,10 @@ void Pause(std::int32_t seconds, const SignalWatch& signals) {
 
 std::int32_t MessageControl::ShowUserMessage(UserMessage& message) {
   report_.Message(message);
-  if (message.input && !AskFor(*message.input)) return ZAFHartTypes::kMessageCancelled;
+  if (message.input && !AskForValue(*message.input, console_, speech_))
+    return ZAFHartTypes::kMessageCancelled;
   if (IsPause(message)) Pause(message.delay, signals_);
   return signals_.Interrupted() ? ZAFHartTypes::kMessageCancelled : 0;
-}
-
-bool MessageControl::AskFor(ZAFHartTypes::Variable& variable) {
-  while (const auto answer = console_.Ask(speech_(Text::EnterValue))) {
-    Variant value;
-    const bool read = ZAFHartTypes::IgnoreFailures([&] { value = ParseValue(*answer, variable); });
-    if (read && variable.CheckValue(value, true)) {
-      variable.SetValue(value);
-      return true;
-    }
-    console_.Error(AllowedText(variable, speech_));
-  }
-  return false;
 }
 
 }  // namespace hartframe

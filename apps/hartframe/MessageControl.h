@@ -18,9 +18,6 @@ class MessageControl : public Control {
   std::int32_t ShowUserMessage(ZAFHartTypes::UserMessage& message) override;
 
  private:
-  // Puts what the user types into the variable; false when he gives up.
-  bool AskFor(ZAFHartTypes::Variable& variable);
-
   Report& report_;
   Console& console_;
   const Speech& speech_;

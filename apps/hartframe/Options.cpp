@@ -151,6 +151,19 @@ void AddCommands(CommandAdder& adder, Options& options) {
           "them; the beginning of a label will do (default: the root menus)")
       ->type_name("PATH");
 
+  CLI::App& run = adder.Add(CommandKind::Run, "run", "Run a method of the DTM");
+  run.add_option("method", options.path, "DD name, label, or path of menus as for menu")
+      ->required()
+      ->type_name("METHOD");
+  run.add_option(
+         "--answer", options.answers,
+         "Answer to the method's next message that waits for one (repeatable): \"ok\" or an "
+         "empty text to acknowledge, a value as write takes it, an option's text or number; "
+         "\"cancel\" cancels")
+      ->type_name("ANSWER")
+      ->allow_extra_args(false);
+  run.add_flag("--yes", options.yes, "Acknowledge what only informs, without an --answer for it");
+
   // The program runs itself with this, to see whether a plug-in can be loaded at all.
   CLI::App& probe = adder.Add(CommandKind::ProbePlugin, "probe-plugin", "");
   probe.group("");

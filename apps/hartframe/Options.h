@@ -9,7 +9,7 @@
 
 namespace hartframe {
 
-enum class CommandKind { Upload, Download, Write, Read, List, Watch, Info, Menu, ProbePlugin };
+enum class CommandKind { Upload, Download, Write, Read, List, Watch, Info, Menu, Run, ProbePlugin };
 enum class LinkKind { Echo, Device };
 
 // What the command line asks for.
@@ -37,9 +37,11 @@ struct Options {
   std::vector<std::string> changes;  // NAME=VALUE
   bool pendingOnly = false;
   bool internalToo = false;
-  std::vector<std::string> path;  // of menu: labels or DD names, from the root menus down
-  int updates = 0;                // of watch; 0: until Ctrl-C
-  int intervalSeconds = 1;        // of watch
+  std::vector<std::string> path;     // of menu and run: labels or DD names from the root menus down
+  std::vector<std::string> answers;  // of run, in order
+  bool yes = false;                  // run: what only informs needs no answer
+  int updates = 0;                   // of watch; 0: until Ctrl-C
+  int intervalSeconds = 1;           // of watch
 
   std::filesystem::path plugin;  // to probe
 };

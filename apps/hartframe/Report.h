@@ -34,8 +34,11 @@ class Report {
  public:
   virtual ~Report() = default;
 
-  // A message of the DTM, translated already.
+  // A message of the DTM, translated already. One that repeats may be counted only.
   virtual void Message(const ZAFHartTypes::UserMessage& message) = 0;
+  // A message of a method to its user, and the answer that it got.
+  virtual void Prompt(const ZAFHartTypes::UserMessage& message) = 0;
+  virtual void Answer(const std::string& answer) = 0;
   // A sentence for the user, and one about what went wrong. `code` names it for machines.
   virtual void Note(std::string_view code, const std::string& sentence) = 0;
   virtual void Problem(std::string_view code, const std::string& sentence) = 0;

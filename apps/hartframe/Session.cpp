@@ -84,6 +84,10 @@ void Session::RegisterControls() {
   view_ = std::make_shared<ViewControl>(console_, speech_, signals_);
   view_->SetComponentModel(components_);
   gui->RegisterCtrl(view_);
+  SetInterruptHandler();
+}
+
+void Session::SetInterruptHandler() {
   signals_.SetHandler([this] { components_->CancelOperation(); });
 }
 
@@ -168,6 +172,13 @@ std::vector<Definition> Session::FindAll(const std::vector<std::string>& pattern
     if (chosen[i]) definitions.push_back(all[i]);
   }
   return definitions;
+}
+
+bool Session::Run(const std::function<void()>& operation,
+                  const std::function<void()>& onInterrupt) {
+  signals_.SetHandler(onInterrupt);
+  const std::shared_ptr<void> restored(nullptr, [this](void*) { SetInterruptHandler(); });
+  return Run(operation);
 }
 
 ExitCode Session::TellFileErrors() {

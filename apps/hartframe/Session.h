@@ -61,6 +61,8 @@ class Session {
 
   // Runs an operation that Ctrl-C ends; false when it did.
   bool Run(const std::function<void()>& operation);
+  // The same, with something else to be done about Ctrl-C.
+  bool Run(const std::function<void()>& operation, const std::function<void()>& onInterrupt);
   bool Interrupted() const { return signals_.Interrupted(); }
   // What the emulated device could not do with its file; tells each.
   ExitCode TellFileErrors();
@@ -70,6 +72,7 @@ class Session {
   void Connect();
   void RegisterControls();
   void SetSessionVariables();
+  void SetInterruptHandler();
 
   const Options& options_;
   Console& console_;

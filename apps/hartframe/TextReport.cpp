@@ -57,9 +57,22 @@ std::vector<std::string> MenuCells(const MenuRow& row, const char* indent, const
 
 }  // namespace
 
+std::string MessageText(const ZAFHartTypes::UserMessage& message) {
+  return "* " + OneLine(message.title) + Indented(message.prompt);
+}
+
 void TextReport::Message(const ZAFHartTypes::UserMessage& message) {
   if (++messages_[{message.title, message.prompt}] > 1) return;
-  console_.Error("* " + OneLine(message.title) + Indented(message.prompt));
+  console_.Error(MessageText(message));
+}
+
+void TextReport::Prompt(const ZAFHartTypes::UserMessage& message) {
+  console_.Error(MessageText(message));
+}
+
+// On a terminal the user has typed it.
+void TextReport::Answer(const std::string& answer) {
+  if (!console_.CanAsk()) console_.Error("    > " + answer);
 }
 
 void TextReport::Note(std::string_view, const std::string& sentence) {

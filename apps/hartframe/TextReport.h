@@ -9,12 +9,17 @@
 
 namespace hartframe {
 
+// A message in lines: its title, and its text indented.
+std::string MessageText(const ZAFHartTypes::UserMessage& message);
+
 // Tables and sentences. Results go to standard output, messages and problems to standard error.
 class TextReport : public Report {
  public:
   TextReport(Console& console, const Speech& speech) : console_(console), speech_(speech) {}
 
   void Message(const ZAFHartTypes::UserMessage& message) override;
+  void Prompt(const ZAFHartTypes::UserMessage& message) override;
+  void Answer(const std::string& answer) override;
   void Note(std::string_view code, const std::string& sentence) override;
   void Problem(std::string_view code, const std::string& sentence) override;
   void Variables(std::span<const VariableRow> rows) override;

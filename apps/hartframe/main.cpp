@@ -26,6 +26,8 @@ ExitCode RunCommand(Session& session) {
       return RunWatch(session);
     case CommandKind::Menu:
       return RunMenu(session);
+    case CommandKind::Run:
+      return RunMethod(session);
     case CommandKind::Info:
     case CommandKind::ProbePlugin:
       break;

@@ -1,0 +1,208 @@
+#include "ddobjects/Method.h"
+#include "gui/CDDDTMGUI.h"
+#include "hartframe/Changes.h"
+#include "hartframe/Commands.h"
+#include "hartframe/DataSet.h"
+#include "hartframe/MenuPath.h"
+#include "hartframe/MenuTexts.h"
+#include "hartframe/MethodDialogue.h"
+#include "hartframe/MethodTexts.h"
+#include "hartframe/MethodWatch.h"
+#include "hartframe/Reading.h"
+#include "interfaces/InternalNames.h"
+
+namespace hartframe {
+
+namespace {
+
+using ZAFHartTypes::CommResult;
+using ZAFHartTypes::Definition;
+using ZAFHartTypes::ObjectKind;
+
+// A method, and the menu that it was found in.
+struct Target {
+  Definition method;
+  std::string label;
+  Definition menu;
+};
+
+std::vector<MenuEntry> AllMethods(Session& session) {
+  std::vector<MenuEntry> methods;
+  for (const auto& object : session.Database().NewEnum()) {
+    const Definition& definition = object->ObjectDefinition();
+    if (definition.Kind() == ObjectKind::Method &&
+        !definition.Name().starts_with(ZAFHartTypes::internal_names::kPrefix))
+      methods.push_back({definition, MultilingualLabel(*object), false});
+  }
+  return methods;
+}
+
+Target ByPath(Session& session) {
+  const MenuPlace place = FollowPath(session, session.Settings().path);
+  if (place.entry.definition.Kind() != ObjectKind::Method) {
+    throw CommandFailure(ExitCode::Usage, session.Say()(texts::kNoMethod, {place.labels.back()}));
+  }
+  return {place.entry.definition, place.labels.back(), place.menu};
+}
+
+// By the DD name of any method, by the label of one of the DTM's, or by a path of menus.
+Target FindTarget(Session& session) {
+  const Speech& say = session.Say();
+  const std::string& name = session.Settings().path.front();
+  if (session.Settings().path.size() > 1) return ByPath(session);
+  const auto object = session.Database().ReadObject(Definition::Define(name, ObjectKind::Method));
+  if (object && object->Kind() == ObjectKind::Method)
+    return {object->ObjectDefinition(), say.Pick(MultilingualLabel(*object)), {}};
+  const std::vector<MenuEntry> methods = AllMethods(session);
+  const std::vector<MenuEntry> matching = MatchingEntries(say, methods, name);
+  if (matching.size() == 1)
+    return {matching.front().definition, say.Pick(matching.front().label), {}};
+  if (matching.empty() && name.find('/') != std::string::npos) return ByPath(session);
+  const char* const text = matching.empty() ? texts::kUnknownMethod : texts::kAmbiguousItem;
+  throw CommandFailure(
+      ExitCode::Usage,
+      say(text, {OneLine(name), ListEntries(say, matching.empty() ? methods : matching)}));
+}
+
+// Whether the method is valid follows from variables, which have to be the device's.
+void RequireValid(Session& session, const Target& target) {
+  ThoroughReader reader(session);
+  session.Run([&] { reader.ReadConditions(target.method); });
+  if (session.Kernel().GetMethodValidity(target.method)) return;
+  TellTroubles(session, reader.Rows());
+  throw CommandFailure(Worse(ExitCode::NotAllowed, CodeOfTroubles(reader.Rows())),
+                       session.Say()(texts::kMethodNotValid, {target.label}));
+}
+
+// The dialogue has the messages for the time of the method.
+class DialogueScope {
+ public:
+  DialogueScope(Session& session, std::shared_ptr<MethodDialogue> dialogue)
+      : gui_(dynamic_cast<ZAFHartLib::CDDDTMGUI&>(*session.Components().DDGUI())),
+        before_(gui_.MessageControl()) {
+    gui_.SetMessageControl(std::move(dialogue));
+  }
+  ~DialogueScope() { gui_.SetMessageControl(before_); }
+  DialogueScope(const DialogueScope&) = delete;
+  DialogueScope& operator=(const DialogueScope&) = delete;
+
+ private:
+  ZAFHartLib::CDDDTMGUI& gui_;
+  std::shared_ptr<ZAFHartTypes::IDDDTMGUI> before_;
+};
+
+// One run of a method, and what is to be told about it.
+class MethodRun {
+ public:
+  MethodRun(Session& session, const Target& target)
+      : session_(session),
+        target_(target),
+        watch_(session.Components()),
+        dialogue_(std::make_shared<MethodDialogue>(session, watch_)) {}
+
+  void Run() {
+    session_.Errors().Forget();
+    const DialogueScope scope(session_, dialogue_);
+    try {
+      session_.Run([this] { session_.Kernel().ExecuteMethod(target_.method, Context()); },
+                   [this] { watch_.AbortAll(); });
+    } catch (const platform::Failure& failure) {
+      failure_ = failure.Description();
+    }
+  }
+
+  // Values that the method has kept, and the end that it came to.
+  ExitCode Tell() {
+    TellKept();
+    if (!dialogue_->Left().empty()) {
+      std::string list;
+      for (const std::string& answer : dialogue_->Left())
+        list += (list.empty() ? "\"" : ", \"") + OneLine(answer) + '"';
+      session_.Tell().Note("answersLeft", session_.Say()(texts::kAnswersLeft, {list}));
+    }
+    return TellEnd();
+  }
+
+ private:
+  std::shared_ptr<ZAFHartTypes::DDObject> Context() {
+    if (target_.menu) return session_.Kernel().GetMenu(target_.menu);
+    return session_.Kernel().GetMethod(target_.method);
+  }
+
+  void TellKept() {
+    std::vector<VariableRow> rows;
+    for (const Definition& definition : watch_.Kept()) rows.push_back(session_.Row(definition));
+    if (rows.empty()) return;
+    session_.Tell().Note("keptByMethod", session_.Say()(texts::kKeptValues));
+    session_.Tell().Variables(rows);
+  }
+
+  ExitCode TellEnd() {
+    const Speech& say = session_.Say();
+    if (const auto& trouble = dialogue_->AnswerTrouble()) {
+      session_.Tell().Problem(trouble->code, trouble->sentence);
+      return TellAborted("answer", texts::kReasonAnswer, ExitCode::AnswerRefused);
+    }
+    if (session_.Interrupted() && (watch_.IsAborted() || !watch_.HasStarted()))
+      return TellAborted("interrupted", texts::kReasonInterrupted, ExitCode::Interrupted);
+    if (failure_) return TellFailed(*failure_);
+    if (watch_.IsAborted()) return TellAbort();
+    session_.Tell().Note("methodFinished", say(texts::kMethodFinished, {target_.label}));
+    return ExitCode::Ok;
+  }
+
+  ExitCode TellFailed(const std::string& why) {
+    session_.Tell().Problem("methodFailed",
+                            session_.Say()(texts::kMethodFailed, {target_.label, OneLine(why)}));
+    return ExitCode::MethodFailed;
+  }
+
+  ExitCode TellAbort() {
+    if (dialogue_->IsCancelled()) return TellAborted("cancelled", texts::kReasonUser);
+    const std::string& error = session_.Errors().EvaluationErrorText();
+    if (!error.empty()) return TellFailed(error.substr(error.rfind('\n') + 1));
+    if (watch_.AbortedItself()) return TellAborted("method", texts::kReasonMethod);
+    const bool isLost = watch_.LastResult() == static_cast<std::int32_t>(CommResult::NoDevice) ||
+                        session_.Errors().HadNoAnswer();
+    return isLost ? TellAborted("noDevice", texts::kReasonNoDevice)
+                  : TellAborted("status", texts::kReasonStatus);
+  }
+
+  ExitCode TellAborted(std::string_view reason, const char* text,
+                       ExitCode code = ExitCode::MethodAborted) {
+    const Speech& say = session_.Say();
+    session_.Tell().Problem("aborted." + std::string(reason),
+                            say(texts::kMethodAborted, {target_.label, say(text)}));
+    return code;
+  }
+
+  Session& session_;
+  const Target& target_;
+  MethodWatch watch_;
+  std::shared_ptr<MethodDialogue> dialogue_;
+  std::optional<std::string> failure_;
+};
+
+// What earlier runs left to be written stays so, except for what the method has changed.
+void KeepChanges(Session& session) {
+  std::vector<Change> anew;
+  for (const Definition& definition : PendingVariables(session)) anew.push_back({definition, {}});
+  if (!anew.empty()) KeepPending(session, LoadPending(session, anew));
+}
+
+}  // namespace
+
+ExitCode RunMethod(Session& session) {
+  if (session.Settings().userLevel == ZAFHartTypes::UserLevel::Observer) {
+    throw CommandFailure(ExitCode::NotAllowed, session.Say()(texts::kObserverCannotRun));
+  }
+  const Target target = FindTarget(session);
+  RequireValid(session, target);
+  MethodRun run(session, target);
+  run.Run();
+  const ExitCode code = run.Tell();
+  KeepChanges(session);
+  return code;
+}
+
+}  // namespace hartframe
