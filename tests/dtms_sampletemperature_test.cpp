@@ -56,6 +56,13 @@ TEST(SampleTemperature, NamesOnlyWhatItDefines) {
     ExpectDefined(relation->UnitVariable(), relation->Describe(0));
     ExpectAllDefined(relation->DependentItems(), *relation);
   }
+  for (const auto& display : All<EditDisplay>()) {
+    ExpectAllDefined(display->DisplayItems(), *display);
+    ExpectAllDefined(display->EditItems(), *display);
+    ExpectAllDefined(display->PreEditActions(), *display);
+    ExpectAllDefined(display->PostEditActions(), *display);
+  }
+  for (const auto& group : All<WriteAsOne>()) ExpectAllDefined(group->Items(), *group);
   sampletemperature::KernelInformation information;
   for (const auto index : {StandardName::UploadVariables, StandardName::OnlineParameters,
                            StandardName::ProcessVariables, StandardName::StatusDisplay})
@@ -101,18 +108,18 @@ struct Layout {
 
 // Numbers of data bytes in the HART command specifications; from 128 on the device's own.
 constexpr Layout kLayouts[] = {
-    {0, 0, 0, 22},   {1, 0, 0, 5},     {2, 0, 0, 8},     {3, 0, 0, 24},    {6, 0, 2, 2},
-    {7, 0, 0, 2},    {8, 0, 0, 4},     {9, 0, 1, 13},    {9, 1, 4, 37},    {11, 0, 6, 22},
-    {12, 0, 0, 24},  {13, 0, 0, 21},   {14, 0, 0, 16},   {15, 0, 0, 18},   {16, 0, 0, 3},
-    {17, 0, 24, 24}, {18, 0, 21, 21},  {19, 0, 3, 3},    {20, 0, 0, 32},   {21, 0, 32, 22},
-    {22, 0, 32, 32}, {33, 0, 1, 6},    {34, 0, 4, 4},    {35, 0, 9, 9},    {36, 0, 0, 0},
-    {37, 0, 0, 0},   {38, 0, 0, 0},    {38, 1, 2, 2},    {40, 0, 4, 4},    {41, 0, 0, 0},
-    {42, 0, 0, 0},   {43, 0, 0, 0},    {44, 0, 1, 1},    {45, 0, 4, 4},    {46, 0, 4, 4},
-    {48, 0, 0, 14},  {49, 0, 3, 3},    {50, 0, 0, 4},    {53, 0, 2, 2},    {59, 0, 1, 1},
-    {128, 0, 0, 1},  {129, 0, 1, 1},   {130, 0, 0, 33},  {131, 0, 33, 33}, {132, 0, 0, 7},
-    {133, 0, 7, 7},  {134, 0, 0, 19},  {135, 0, 19, 19}, {136, 0, 0, 28},  {137, 0, 28, 28},
-    {138, 0, 0, 2},  {139, 0, 2, 2},   {140, 0, 1, 9},   {141, 0, 9, 9},   {142, 0, 0, 23},
-    {144, 0, 0, 45}, {145, 0, 45, 45},
+    {0, 0, 0, 22},    {1, 0, 0, 5},    {2, 0, 0, 8},     {3, 0, 0, 24},    {6, 0, 2, 2},
+    {7, 0, 0, 2},     {8, 0, 0, 4},    {9, 0, 1, 13},    {9, 1, 4, 37},    {11, 0, 6, 22},
+    {12, 0, 0, 24},   {13, 0, 0, 21},  {14, 0, 0, 16},   {15, 0, 0, 18},   {16, 0, 0, 3},
+    {17, 0, 24, 24},  {18, 0, 21, 21}, {19, 0, 3, 3},    {20, 0, 0, 32},   {21, 0, 32, 22},
+    {22, 0, 32, 32},  {33, 0, 1, 6},   {34, 0, 4, 4},    {35, 0, 9, 9},    {36, 0, 0, 0},
+    {37, 0, 0, 0},    {38, 0, 0, 0},   {38, 1, 2, 2},    {40, 0, 4, 4},    {41, 0, 0, 0},
+    {42, 0, 0, 0},    {43, 0, 0, 0},   {44, 0, 1, 1},    {45, 0, 4, 4},    {46, 0, 4, 4},
+    {48, 0, 0, 14},   {49, 0, 3, 3},   {50, 0, 0, 4},    {53, 0, 2, 2},    {59, 0, 1, 1},
+    {82, 0, 7, 7},    {128, 0, 0, 1},  {129, 0, 1, 1},   {130, 0, 0, 33},  {131, 0, 33, 33},
+    {132, 0, 0, 7},   {133, 0, 7, 7},  {134, 0, 0, 19},  {135, 0, 19, 19}, {136, 0, 0, 28},
+    {137, 0, 28, 28}, {138, 0, 0, 2},  {139, 0, 2, 2},   {140, 0, 1, 9},   {141, 0, 9, 9},
+    {142, 0, 0, 23},  {144, 0, 0, 45}, {145, 0, 45, 45},
 };
 
 TEST(SampleTemperature, CommandsHaveTheirLayouts) {

@@ -103,6 +103,24 @@ void DescribeLoopCurrentCommands(DeviceDescription& dd) {
       .Codes(trim);
 }
 
+void DescribeSensorTrim(DeviceDescription& dd) {
+  using enum ResponseCodeType;
+  // HART command 82
+  dd.Command("write_device_variable_trim_point", 82, Operation::Command)
+      .Request({Index(kCode), "trim_point", Info("trim_unit"), "trim_reference"})
+      .Reply({Index(kCode), "trim_point", Info("trim_unit"), "trim_reference"})
+      .Codes(hart::WriteCodes(
+          {hart::InvalidSelection(),
+           hart::ParameterTooLarge(),
+           hart::ParameterTooSmall(),
+           {9, ProcessError, "Applied process too high|de|Anliegender Messwert zu hoch"},
+           {10, ProcessError, "Applied process too low|de|Anliegender Messwert zu niedrig"},
+           {11, DataEntryError, "Invalid device variable code|de|Ungültige Gerätevariable"},
+           {13, ProcessError,
+            "Trim fails, nothing is changed|de|Abgleich misslingt, nichts ist geändert"},
+           hart::InvalidUnits()}));
+}
+
 void DescribeDeviceHandling(DeviceDescription& dd) {
   // HART command 41
   dd.Command("perform_self_test", 41, Operation::Command).Transaction(0).Codes(hart::ActionCodes());
@@ -129,6 +147,7 @@ void DescribeCommonPracticeCommands(DeviceDescription& dd) {
   DescribeDeviceVariableCommands(dd);
   DescribeRangeCommands(dd);
   DescribeLoopCurrentCommands(dd);
+  DescribeSensorTrim(dd);
   DescribeDeviceHandling(dd);
 }
 

@@ -21,6 +21,13 @@ std::unique_ptr<const Catalogue> MakeDescription() {
   DescribeCommonPracticeCommands(*dd);
   DescribeDeviceCommands(*dd);
   DescribeRelations(*dd);
+  DescribeUnitTable(*dd);
+  DescribeActions(*dd);
+  DescribeLoopMethods(*dd);
+  DescribeTrimMethods(*dd);
+  DescribeStatusMethods(*dd);
+  DescribeDeviceMethods(*dd);
+  DescribeEditDisplays(*dd);
   DescribeUploadMenu(*dd);
   DescribeMenus(*dd);
   return dd;

@@ -29,6 +29,15 @@ void DescribeCommonPracticeCommands(DeviceDescription& dd);
 void DescribeDeviceCommands(DeviceDescription& dd);
 
 void DescribeRelations(DeviceDescription& dd);
+void DescribeUnitTable(DeviceDescription& dd);
+void DescribeActions(DeviceDescription& dd);      // of variables and edit displays
+void DescribeLoopRelease(DeviceDescription& dd);  // the abort method of those that fix the current
+void DescribeLoopMethods(DeviceDescription& dd);  // loop test, trim of the loop current
+void DescribeTrimMethods(DeviceDescription& dd);  // trim of the sensor
+void DescribeStatusMethods(DeviceDescription& dd);  // self test, status bits
+void DescribeDeviceMethods(DeviceDescription& dd);  // reset, live values
+
+void DescribeEditDisplays(DeviceDescription& dd);
 void DescribeUploadMenu(DeviceDescription& dd);
 void DescribeMenus(DeviceDescription& dd);
 

@@ -19,7 +19,8 @@ void DescribeSettings(DeviceDescription& dd) {
       .Label("Output|de|Ausgang")
       .Variables({"primary_variable_unit", "range_unit", "lower_range_value", "upper_range_value",
                   "damping_value", "loop_current_mode"})
-      .ReadOnlyVariables({"transfer_function"})
+      .ReadOnlyVariables({"measuring_span", "transfer_function"})
+      .EditDisplays({"range_form"})
       .Menus({"alarm_menu"});
   dd.Menu("alarm_menu")
       .Label("Alarm")
@@ -48,13 +49,21 @@ void DescribeService(DeviceDescription& dd) {
   dd.Menu("service_menu")
       .Label("Service|de|Wartung")
       .Variables({"service_date", "service_interval", "service_note", "service_code"})
-      .ReadOnlyVariables({"operating_hours", "restart_count", "event_log", "sensor_minimum",
-                          "sensor_maximum", "electronics_minimum", "electronics_maximum"})
-      .Menus({"trim_menu"});
+      .ReadOnlyVariables({"operating_hours", "operating_days", "restart_count", "event_log",
+                          "sensor_minimum", "sensor_maximum", "previous_sensor_maximum",
+                          "electronics_minimum", "electronics_maximum"})
+      .EditDisplays({"service_form"})
+      .Menus({"trim_menu", "test_menu"})
+      .Methods({"device_reset"});
+  dd.Menu("test_menu")
+      .Label("Tests|de|Tests")
+      .ReadOnlyVariables({"loop_current_mode", "loop_current"})
+      .Methods({"loop_test", "self_test", "watch_measurement"});
   dd.Menu("trim_menu")
       .Label("Sensor trim|de|Sensorabgleich")
       .Variables(
-          {"trim_unit", "lower_trim_point", "upper_trim_point", "trim_date", "trim_operator"});
+          {"trim_unit", "lower_trim_point", "upper_trim_point", "trim_date", "trim_operator"})
+      .Methods({"sensor_zero_trim", "sensor_trim", "loop_current_trim"});
 }
 
 // The menus that the kernel information names.
@@ -74,7 +83,8 @@ void DescribeStandardMenus(DeviceDescription& dd) {
            "device_specific_status_1", "device_specific_status_2", "device_specific_status_3",
            "device_specific_status_4", "device_specific_status_5", "standardized_status_0",
            "standardized_status_1", "standardized_status_2", "standardized_status_3",
-           "analog_channel_saturated", "analog_channel_fixed", "configuration_change_counter"});
+           "analog_channel_saturated", "analog_channel_fixed", "configuration_change_counter"})
+      .Methods({"show_status"});
 }
 
 }  // namespace

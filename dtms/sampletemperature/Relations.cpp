@@ -8,7 +8,8 @@ namespace {
 void DescribeUnitRelations(DeviceDescription& dd) {
   auto primary = dd.UnitRelation("primary_unit_relation")
                      .Unit("primary_variable_unit")
-                     .Dependents({"primary_variable", "sensor_minimum", "sensor_maximum"});
+                     .Dependents({"primary_variable", "sensor_minimum", "sensor_maximum",
+                                  "previous_sensor_maximum"});
   for (int number = 1; number <= kLinearisationPoints; ++number)
     primary.Dependents({LinearisationInput(number), LinearisationOutput(number)});
   dd.UnitRelation("secondary_unit_relation")
@@ -22,13 +23,13 @@ void DescribeUnitRelations(DeviceDescription& dd) {
       .Dependents({"fourth_variable"});
   dd.UnitRelation("range_unit_relation")
       .Unit("range_unit")
-      .Dependents({"upper_range_value", "lower_range_value"});
+      .Dependents({"upper_range_value", "lower_range_value", "measuring_span"});
   dd.UnitRelation("limits_unit_relation")
       .Unit("transducer_limits_unit")
       .Dependents({"upper_transducer_limit", "lower_transducer_limit", "minimum_span"});
   dd.UnitRelation("trim_unit_relation")
       .Unit("trim_unit")
-      .Dependents({"lower_trim_point", "upper_trim_point"});
+      .Dependents({"lower_trim_point", "upper_trim_point", "trim_reference"});
 }
 
 // The device changes these by itself when a trigger is written.
@@ -50,6 +51,8 @@ void DescribeRefreshRelations(DeviceDescription& dd) {
 void DescribeRelations(DeviceDescription& dd) {
   DescribeUnitRelations(dd);
   DescribeRefreshRelations(dd);
+  // Command 35 writes them together.
+  dd.WriteAsOne("range_values").Members({"range_unit", "lower_range_value", "upper_range_value"});
 }
 
 }  // namespace sampletemperature

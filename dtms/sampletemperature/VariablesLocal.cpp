@@ -3,9 +3,61 @@
 
 namespace sampletemperature {
 
-// Held by the DTM: what the user gives to a command or keeps for himself. The types of text and
-// time that have no place on the wire are here.
+// Held by the DTM: what the user or a method gives to a command, what is calculated, and what the
+// user keeps for himself. The types of text and time that have no place on the wire are here.
+namespace {
+
+void DescribeTrimRequest(DeviceDescription& dd) {
+  dd.Variable("trim_point")
+      .Label("Trim point|de|Abgleichpunkt")
+      .Help("Point that a trim command is about|de|Punkt eines Abgleichkommandos")
+      .Enumerated(1, MakeEnums({{1, "Lower|de|Unterer"}, {2, "Upper|de|Oberer"}}))
+      .Default(1)
+      .Local();
+  dd.Variable("trim_reference")
+      .Label("Reference|de|Referenz")
+      .Help("What the reference shows at the trim point|de|Anzeige der Referenz am Abgleichpunkt")
+      .Float()
+      .Format("8.3f")
+      .Default(0.0F)
+      .Local();
+}
+
+void DescribeCalculated(DeviceDescription& dd) {
+  dd.Variable("measuring_span")
+      .Label("Measuring span|de|Messspanne")
+      .Help("Difference of the range values|de|Abstand der Messbereichswerte")
+      .Float()
+      .Format("8.2f")
+      .Default(100.0F)
+      .ReadOnly()
+      .Local();
+  dd.Variable("operating_days")
+      .Label("Operating days|de|Betriebstage")
+      .Help("Days that the device has been powered|de|Tage, die das Gerät versorgt war")
+      .Double()
+      .Format("8.1f")
+      .Unit("d")
+      .Default(0.0)
+      .ReadOnly()
+      .Local();
+  dd.Variable("previous_sensor_maximum")
+      .Label("Previous highest temperature|de|Vorherige Höchsttemperatur")
+      .Help(
+          "Highest sensor temperature when it was read before the last time|de|"
+          "Höchste Sensortemperatur beim vorletzten Lesen")
+      .Float()
+      .Format("8.2f")
+      .Default(0.0F)
+      .ReadOnly()
+      .Local();
+}
+
+}  // namespace
+
 void DescribeLocalVariables(DeviceDescription& dd) {
+  DescribeTrimRequest(dd);
+  DescribeCalculated(dd);
   dd.Variable("fixed_loop_current")
       .Label("Fixed loop current|de|Fester Schleifenstrom")
       .Help("Current to hold; 0 releases it|de|Strom, der gehalten wird; 0 gibt ihn frei")

@@ -53,13 +53,15 @@ void DescribeRange(DeviceDescription& dd) {
       .Help("Value at which the loop current is 20 mA|de|Wert, bei dem der Strom 20 mA ist")
       .Float()
       .Format("8.2f")
-      .Default(100.0F);
+      .Default(100.0F)
+      .Actions(ActionList::PostEdit, {"update_span"});
   dd.Variable("lower_range_value")
       .Label("Lower range value|de|Messbereichsanfang")
       .Help("Value at which the loop current is 4 mA|de|Wert, bei dem der Strom 4 mA ist")
       .Float()
       .Format("8.2f")
-      .Default(0.0F);
+      .Default(0.0F)
+      .Actions(ActionList::PostEdit, {"update_span"});
   dd.Variable("damping_value")
       .Label("Damping|de|Dämpfung")
       .Help("Time constant of the primary variable|de|Zeitkonstante des Messwerts")
@@ -67,7 +69,8 @@ void DescribeRange(DeviceDescription& dd) {
       .Format("6.2f")
       .Unit("s")
       .Range(0.0F, 60.0F)
-      .Default(0.0F);
+      .Default(0.0F)
+      .Actions(ActionList::PreWrite, {"round_damping"});
 }
 
 }  // namespace
@@ -81,7 +84,8 @@ void DescribeRangeVariables(DeviceDescription& dd) {
           "Whether the loop current follows the primary variable|de|"
           "Ob der Schleifenstrom dem Messwert folgt")
       .Enumerated(1, hart::LoopCurrentModeCodes())
-      .Default(1);
+      .Default(1)
+      .Actions(ActionList::PostWrite, {"warn_of_multi_drop"});
   dd.Variable("transfer_function")
       .Label("Transfer function|de|Übertragungsfunktion")
       .Help("Shape of the loop current over the value|de|Verlauf des Stroms über dem Messwert")

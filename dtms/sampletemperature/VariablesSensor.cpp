@@ -135,7 +135,8 @@ void DescribeSensorVariables(DeviceDescription& dd) {
       .Label("Sensor type|de|Sensortyp")
       .Help("Sensor that is connected|de|Angeschlossener Sensor")
       .Enumerated(1, SensorTypes())
-      .Default(static_cast<std::int32_t>(Sensor::TypeK));
+      .Default(static_cast<std::int32_t>(Sensor::TypeK))
+      .Actions(ActionList::PreEdit, {"warn_of_sensor_change"});
   DescribeResistance(dd);
   DescribeColdJunction(dd);
 }

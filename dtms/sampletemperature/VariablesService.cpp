@@ -36,7 +36,8 @@ void DescribeOperatingData(DeviceDescription& dd) {
       .Double()
       .Format("10.1f")
       .Unit("h")
-      .ReadOnly();
+      .ReadOnly()
+      .Actions(ActionList::PostRead, {"convert_operating_time"});
   dd.Variable("sensor_minimum")
       .Label("Lowest sensor temperature|de|Tiefste Sensortemperatur")
       .Help("Not a number before the first measurement|de|Keine Zahl vor der ersten Messung")
@@ -48,7 +49,8 @@ void DescribeOperatingData(DeviceDescription& dd) {
       .Help("Not a number before the first measurement|de|Keine Zahl vor der ersten Messung")
       .Float()
       .Format("8.2f")
-      .ReadOnly();
+      .ReadOnly()
+      .Actions(ActionList::PreRead, {"keep_sensor_maximum"});
   dd.Variable("electronics_minimum")
       .Label("Lowest electronics temperature|de|Tiefste Elektroniktemperatur")
       .Help("Since the device was made|de|Seit der Herstellung des Geräts")

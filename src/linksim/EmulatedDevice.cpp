@@ -29,11 +29,21 @@ enum CommandNumber : std::int16_t {
   kResetConfigurationChanged = 38,
   kFixLoopCurrent = 40,
   kRestart = 42,
+  kReadAdditionalStatus = 48,
 };
 
 // Commands whose request tells what to do or what to read; every other request configures.
-constexpr std::int16_t kNotConfiguring[] = {
-    9, 11, 21, 33, kResetConfigurationChanged, 39, kFixLoopCurrent, 41, kRestart, 48, 54};
+constexpr std::int16_t kNotConfiguring[] = {9,
+                                            11,
+                                            21,
+                                            33,
+                                            kResetConfigurationChanged,
+                                            39,
+                                            kFixLoopCurrent,
+                                            41,
+                                            kRestart,
+                                            kReadAdditionalStatus,
+                                            54};
 
 // The variables that the device itself has to know.
 TextKey PollingAddressName() {
@@ -160,9 +170,18 @@ std::vector<std::uint8_t> EmulatedDevice::ReplyTo(const Exchange& exchange,
   reply.SetLength(std::max(reply.Length(), hart::kStatusSize));
   if (const ZAFHartTypes::DataItemList* items = exchange.ReplyItems())
     FillIn(reply, *items, request);
+  if (exchange.CommandNumber() == kReadAdditionalStatus) TellMoreStatus(reply);
   reply.SetUnsigned(0, 1, hart::kSuccess);
   reply.SetUnsigned(1, 1, status_);
   return reply.Bytes();
+}
+
+// There is more status as long as the last additional status had a bit set.
+void EmulatedDevice::TellMoreStatus(const Frame& additionalStatus) {
+  const std::vector<std::uint8_t>& bytes = additionalStatus.Bytes();
+  SetStatusFlag(hart::kMoreStatusAvailable,
+                std::any_of(bytes.begin() + hart::kStatusSize, bytes.end(),
+                            [](std::uint8_t byte) { return byte != 0; }));
 }
 
 // Puts the device's values in place of those of the data set.

@@ -25,7 +25,8 @@ class DeviceRequest;
 // Beyond that it behaves like a transmitter: a change of its configuration counts in
 // "configuration_change_counter" and sets the device status bit until command 38; command 6 gives
 // it another polling address, under which alone it answers command 0 from then on; command 40 fixes
-// and frees the loop current; command 42 restarts it, which the next reply tells (cold start).
+// and frees the loop current; command 42 restarts it, which the next reply tells (cold start);
+// "more status available" follows what command 48 told last.
 //
 // Several links may share one device; it outlives them.
 class EmulatedDevice {
@@ -70,6 +71,7 @@ class EmulatedDevice {
   void Apply(std::int16_t command, const DeviceRequest& request);
   std::vector<std::uint8_t> ReplyTo(const ZAFHartTypes::Exchange& exchange,
                                     const DeviceRequest& request);
+  void TellMoreStatus(const Frame& additionalStatus);
   void FillIn(Frame& reply, const ZAFHartTypes::DataItemList& items, const DeviceRequest& request);
   ZAFHartTypes::Variant Known(const ZAFHartTypes::DataItem& item, const DeviceRequest& request,
                               const ZAFHartTypes::Variant& inDataSet);
