@@ -2,7 +2,7 @@
 # shellcheck shell=bash
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
-BUILD_PACKAGES=(g++ cmake ninja-build nlohmann-json3-dev libcli11-dev)
+BUILD_PACKAGES=(g++ cmake ninja-build nlohmann-json3-dev libcli11-dev libncurses-dev)
 TEST_PACKAGES=(libgtest-dev libgmock-dev libbenchmark-dev)
 JOBS=$(nproc)
 

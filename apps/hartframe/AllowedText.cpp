@@ -5,6 +5,7 @@
 #include "hartframe/ValueText.h"
 #include "hartframe/VariableRow.h"
 #include "platform/Platform.h"
+#include "types/Utf8.h"
 
 namespace hartframe {
 
@@ -54,6 +55,12 @@ class Choices {
 };
 
 }  // namespace
+
+std::string RefusalSentence(std::string_view text, const Variable& variable, const Speech& speech) {
+  const std::string why =
+      ZAFHartTypes::utf8::IsValid(text) ? AllowedText(variable, speech) : speech(Text::BrokenText);
+  return speech(Text::ValueRefused, {variable.Definition().Name(), OneLine(text), why});
+}
 
 std::string AllowedText(const Variable& variable, const Speech& speech) {
   const TypeInfo& type = variable.TypeInfo();

@@ -6,7 +6,6 @@
 #include "hartframe/Reading.h"
 #include "hartframe/ValueText.h"
 #include "types/Failure.h"
-#include "types/Utf8.h"
 
 namespace hartframe {
 
@@ -16,7 +15,6 @@ using ZAFHartTypes::AccessMode;
 using ZAFHartTypes::Definition;
 using ZAFHartTypes::Failure;
 using ZAFHartTypes::Variable;
-using ZAFHartTypes::Variant;
 
 [[noreturn]] void Refuse(const std::string& sentence) {
   throw CommandFailure(ExitCode::ValueRefused, sentence);
@@ -32,20 +30,12 @@ void RequireWritable(Session& session, const Variable& variable) {
     Refuse(say(Text::NotADeviceVariable, {name}));
 }
 
-Variant AcceptedValue(Session& session, const Variable& variable, const std::string& text) {
-  Variant value;
-  const bool read = ZAFHartTypes::IgnoreFailures([&] { value = ParseValue(text, variable); });
-  if (read && variable.CheckValue(value, true)) return value;
-  const std::string why = ZAFHartTypes::utf8::IsValid(text) ? AllowedText(variable, session.Say())
-                                                            : session.Say()(Text::BrokenText);
-  Refuse(session.Say()(Text::ValueRefused, {variable.Definition().Name(), OneLine(text), why}));
-}
-
 void Apply(Session& session, const Change& change) {
   const auto variable = session.Variable(change.definition);
   RequireWritable(session, *variable);
-  const Variant value = AcceptedValue(session, *variable, change.value);
-  session.Database().WriteValue(change.definition, value);
+  const auto value = AcceptedValue(change.value, *variable);
+  if (!value) Refuse(RefusalSentence(change.value, *variable, session.Say()));
+  session.Database().WriteValue(change.definition, *value);
   // Also when the data set has that value already: it need not be the device's.
   session.Database().SetVariableToBeWritten(change.definition, true);
   session.Kernel().ExecuteRelations(change.definition);
@@ -122,13 +112,21 @@ std::vector<Definition> PendingVariables(Session& session) {
   return pending;
 }
 
+std::vector<Change> PendingChanges(Session& session) {
+  std::vector<Change> changes;
+  for (const Definition& definition : PendingVariables(session)) {
+    const auto variable = session.Variable(definition);
+    changes.push_back({definition, StoredText(variable->Value(), *variable)});
+  }
+  return changes;
+}
+
 void KeepPending(Session& session, const std::vector<Change>& notAccepted) {
   std::vector<VariableRow> rows;
   std::vector<PendingChange> kept;
-  for (const Definition& definition : PendingVariables(session)) {
-    rows.push_back(session.Row(definition));
-    const Variable& variable = *rows.back().variable;
-    kept.push_back({definition.Name(), StoredText(variable.Value(), variable)});
+  for (const Change& change : PendingChanges(session)) {
+    rows.push_back(session.Row(change.definition));
+    kept.push_back({change.definition.Name(), change.value});
   }
   for (const Change& change : notAccepted) kept.push_back({change.definition.Name(), change.value});
   session.Tell().Pending(rows);

@@ -31,6 +31,8 @@ std::vector<Change> ApplyPending(Session& session, const std::vector<Change>& ch
 
 // Variables that are to be written, in database order.
 std::vector<ZAFHartTypes::Definition> PendingVariables(Session& session);
+// The same as changes that make them so again.
+std::vector<Change> PendingChanges(Session& session);
 // Tells what is still to be written, and keeps it for a later run together with `notAccepted`.
 void KeepPending(Session& session, const std::vector<Change>& notAccepted);
 // CommandFailure (NotAllowed) for an observer.

@@ -13,6 +13,7 @@ ExitCode RunRead(Session& session);
 ExitCode RunList(Session& session);
 ExitCode RunWatch(Session& session);
 ExitCode RunInfo(Session& session);
+ExitCode RunBrowse(Session& session);
 ExitCode RunMenu(Session& session);
 ExitCode RunMethod(Session& session);
 

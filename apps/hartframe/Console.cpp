@@ -58,11 +58,13 @@ Console::Console()
       errorIsTerminal_(isatty(STDERR_FILENO) != 0) {}
 
 void Console::Out(std::string_view line) {
+  if (screen_) return screen_->Out(line);
   EraseBar();
   Print(stdout, std::string(line) + '\n');
 }
 
 void Console::Error(std::string_view line) {
+  if (screen_) return screen_->Error(line);
   EraseBar();
   Print(stderr, std::string(line) + '\n');
 }
@@ -81,6 +83,7 @@ void Console::Table(const std::vector<std::string>& headings,
 }
 
 void Console::Progress(const std::string& title, double percent) {
+  if (screen_) return screen_->Progress(title, percent);
   if (percent < 0) {
     EraseBar();
     lastShown_ = -1;
@@ -108,7 +111,7 @@ void Console::Status(std::string_view line) {
 }
 
 std::optional<std::string> Console::Ask(std::string_view question) {
-  if (!canAsk_) return std::nullopt;
+  if (!CanAsk()) return std::nullopt;
   EraseBar();
   Print(stderr, question);
   std::string line;

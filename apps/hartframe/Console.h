@@ -7,14 +7,27 @@
 
 namespace hartframe {
 
+// What takes the console's place while a screen is shown.
+class ConsoleScreen {
+ public:
+  virtual ~ConsoleScreen() = default;
+  // Each may have several lines.
+  virtual void Out(std::string_view text) = 0;
+  virtual void Error(std::string_view text) = 0;
+  virtual void Progress(const std::string& title, double percent) = 0;
+};
+
 // The terminal, or the pipes in its place. Results go to standard output, progress, messages and
 // questions to standard error.
 class Console {
  public:
   Console();
 
+  // Everything goes to the screen from now on; nothing ends that. The screen outlives it.
+  void SetScreen(ConsoleScreen* screen) { screen_ = screen; }
+
   // Somebody can be asked: standard input and standard error are a terminal.
-  bool CanAsk() const { return canAsk_; }
+  bool CanAsk() const { return canAsk_ && !screen_; }
   bool ShowsBar() const { return errorIsTerminal_; }
 
   void Out(std::string_view line);
@@ -34,6 +47,7 @@ class Console {
  private:
   void EraseBar();
 
+  ConsoleScreen* screen_ = nullptr;
   bool canAsk_;
   bool errorIsTerminal_;
   bool barShown_ = false;

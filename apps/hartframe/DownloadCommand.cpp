@@ -4,6 +4,7 @@
 #include "hartframe/Changes.h"
 #include "hartframe/Commands.h"
 #include "hartframe/DataSet.h"
+#include "hartframe/Transfers.h"
 #include "hartframe/WriteWatch.h"
 
 namespace hartframe {
@@ -56,7 +57,11 @@ ExitCode RunDownload(Session& session) {
   }
   const std::vector<Change> notAccepted = ApplyPending(session, pending);
   ApplyChanges(session, changes);
+  return DownloadAndTell(session, loaded, changes, notAccepted);
+}
 
+ExitCode DownloadAndTell(Session& session, const Loaded& loaded, const std::vector<Change>& changes,
+                         const std::vector<Change>& notAccepted) {
   WriteWatch watch(session, WritableOf(loaded));
   Definition menu;
   const bool finished = session.Run([&] { session.Components().Download(menu); });

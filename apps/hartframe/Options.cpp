@@ -1,5 +1,7 @@
 #include "hartframe/Options.h"
 
+#include <unistd.h>
+
 #include <CLI/CLI.hpp>
 #include <cstdlib>
 #include <map>
@@ -164,10 +166,20 @@ void AddCommands(CommandAdder& adder, Options& options) {
       ->allow_extra_args(false);
   run.add_flag("--yes", options.yes, "Acknowledge what only informs, without an --answer for it");
 
+  adder.Add(CommandKind::Browse, "browse", "Work with the DTM's menus on a screen");
+
   // The program runs itself with this, to see whether a plug-in can be loaded at all.
   CLI::App& probe = adder.Add(CommandKind::ProbePlugin, "probe-plugin", "");
   probe.group("");
   probe.add_option("plugin", options.plugin)->required();
+}
+
+// The screen has the terminal to itself.
+void CheckBrowse(const Options& options) {
+  if (options.json) throw CLI::ValidationError("--json does not go with browse");
+  if (options.trace && isatty(STDERR_FILENO) != 0) {
+    throw CLI::ValidationError("--trace would write over the screen: add 2>FILE");
+  }
 }
 
 void Complete(Parsed& parsed) {
@@ -182,6 +194,7 @@ void Complete(Parsed& parsed) {
   if (options.dtm.empty() && options.command != CommandKind::ProbePlugin) {
     throw CLI::RequiredError("--dtm");
   }
+  if (options.command == CommandKind::Browse) CheckBrowse(options);
   if (options.traceDepth == 0) options.traceDepth = options.trace.value_or(1);
 }
 

@@ -9,7 +9,19 @@
 
 namespace hartframe {
 
-enum class CommandKind { Upload, Download, Write, Read, List, Watch, Info, Menu, Run, ProbePlugin };
+enum class CommandKind {
+  Upload,
+  Download,
+  Write,
+  Read,
+  List,
+  Watch,
+  Info,
+  Menu,
+  Run,
+  Browse,
+  ProbePlugin
+};
 enum class LinkKind { Echo, Device };
 
 // What the command line asks for.

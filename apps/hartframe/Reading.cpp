@@ -14,7 +14,22 @@ void ComputeAttributes(ZAFHartTypes::IDDKernel& kernel, const Definition& defini
   if (definition.Kind() == ObjectKind::Method) kernel.GetMethod(definition);
 }
 
+bool IsUnread(const Variable& variable) {
+  return variable.Validity() && !variable.Available() && !variable.ToBeWritten() &&
+         !variable.Attributes().IsLibraryHeld() && variable.CheckHandling(AccessMode::Read);
+}
+
 }  // namespace
+
+std::vector<Definition> UnreadConditions(Session& session, const Definition& object) {
+  const auto& database = dynamic_cast<ZAFHartLib::CDDWorkerDB&>(session.Database());
+  std::vector<Definition> unread;
+  for (const Definition& definition : session.AllVariables(false)) {
+    if (database.IsDependent(object, definition) && IsUnread(*session.Variable(definition)))
+      unread.push_back(definition);
+  }
+  return unread;
+}
 
 ThoroughReader::ThoroughReader(Session& session)
     : session_(session),
@@ -44,11 +59,7 @@ Definition ThoroughReader::NextToRead(const Definition& object) {
   if (session_.Interrupted()) return {};
   for (const Definition& definition : all_) {
     if (started_.contains(definition.Key()) || !database_.IsDependent(object, definition)) continue;
-    const auto variable = session_.Variable(definition);
-    if (variable->Validity() && !variable->Available() && !variable->ToBeWritten() &&
-        !variable->Attributes().IsLibraryHeld() && variable->CheckHandling(AccessMode::Read)) {
-      return definition;
-    }
+    if (IsUnread(*session_.Variable(definition))) return definition;
   }
   return {};
 }

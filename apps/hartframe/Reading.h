@@ -9,6 +9,11 @@
 
 namespace hartframe {
 
+// The variables that decide about the attributes of an object (its validity, limits, unit) and can
+// be read, but were not.
+std::vector<ZAFHartTypes::Definition> UnreadConditions(Session& session,
+                                                       const ZAFHartTypes::Definition& object);
+
 // Reads variables from the device, and before each what its validity, limits and unit depend on, so
 // that they are the device's and not those of the defaults. For use inside Session::Run.
 class ThoroughReader {

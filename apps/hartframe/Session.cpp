@@ -5,7 +5,6 @@
 #include <cstdlib>
 
 #include "components/LibraryClasses.h"
-#include "gui/CDDDTMGUI.h"
 #include "hartframe/ConsoleTracer.h"
 #include "hartframe/MessageControl.h"
 #include "hartframe/NamePattern.h"
@@ -38,7 +37,7 @@ T& Require(const std::shared_ptr<T>& component) {
 
 }  // namespace
 
-Session::Session(const Options& options, Console& console, const Speech& speech, Report& report)
+Session::Session(const Options& options, Console& console, Speech& speech, Report& report)
     : options_(options),
       console_(console),
       speech_(speech),
@@ -76,14 +75,14 @@ void Session::LoadDtm() {
 void Session::RegisterControls() {
   // Tells what the attributes of a variable depend on.
   dynamic_cast<ZAFHartLib::CDDWorkerDB&>(Database()).SetTrackDependencies(true);
-  const auto gui = std::dynamic_pointer_cast<ZAFHartLib::CDDDTMGUI>(components_->DDGUI());
-  Require(gui).SetLanguageID(speech_.Language());
+  ZAFHartLib::CDDDTMGUI& gui = Gui();
+  gui.SetLanguageID(speech_.Language());
   errors_ = std::make_shared<ErrorWatch>();
-  gui->SetErrorHandler(errors_);
-  gui->SetMessageControl(std::make_shared<MessageControl>(report_, console_, speech_, signals_));
+  gui.SetErrorHandler(errors_);
+  gui.SetMessageControl(std::make_shared<MessageControl>(report_, console_, speech_, signals_));
   view_ = std::make_shared<ViewControl>(console_, speech_, signals_);
   view_->SetComponentModel(components_);
-  gui->RegisterCtrl(view_);
+  gui.RegisterCtrl(view_);
   SetInterruptHandler();
 }
 
@@ -122,6 +121,15 @@ ZAFHartTypes::IDDWorkerDB& Session::Database() {
 
 ZAFHartTypes::IDDCommWrapper& Session::Comm() {
   return Require(components_->HARTComm());
+}
+
+ZAFHartLib::CDDDTMGUI& Session::Gui() {
+  return Require(std::dynamic_pointer_cast<ZAFHartLib::CDDDTMGUI>(components_->DDGUI()));
+}
+
+void Session::SetLanguage(const std::string& language) {
+  speech_.SetLanguage(language);
+  Gui().SetLanguageID(language);
 }
 
 std::shared_ptr<ZAFHartTypes::Variable> Session::Variable(const Definition& definition) {

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "components/CDDComponents.h"
+#include "gui/CDDDTMGUI.h"
 #include "hartframe/Connection.h"
 #include "hartframe/Console.h"
 #include "hartframe/ErrorWatch.h"
@@ -23,7 +24,7 @@ namespace hartframe {
 // user's rights. Ends the instance with its scope.
 class Session {
  public:
-  Session(const Options& options, Console& console, const Speech& speech, Report& report);
+  Session(const Options& options, Console& console, Speech& speech, Report& report);
   ~Session();
   Session(const Session&) = delete;
   Session& operator=(const Session&) = delete;
@@ -46,6 +47,7 @@ class Session {
   ZAFHartTypes::IDDKernel& Kernel();
   ZAFHartTypes::IDDWorkerDB& Database();
   ZAFHartTypes::IDDCommWrapper& Comm();
+  ZAFHartLib::CDDDTMGUI& Gui();
 
   // The variable with current attributes, not read from the device.
   std::shared_ptr<ZAFHartTypes::Variable> Variable(const ZAFHartTypes::Definition& definition);
@@ -64,6 +66,9 @@ class Session {
   // The same, with something else to be done about Ctrl-C.
   bool Run(const std::function<void()>& operation, const std::function<void()>& onInterrupt);
   bool Interrupted() const { return signals_.Interrupted(); }
+  SignalWatch& Signals() { return signals_; }
+  // Speaks another language from now on: "en", "de", "fr", "it", "es" or "kt".
+  void SetLanguage(const std::string& language);
   // What the emulated device could not do with its file; tells each.
   ExitCode TellFileErrors();
 
@@ -76,7 +81,7 @@ class Session {
 
   const Options& options_;
   Console& console_;
-  const Speech& speech_;
+  Speech& speech_;
   Report& report_;
   PendingFile pending_;
   SignalWatch signals_;

@@ -9,16 +9,23 @@ namespace hartframe {
 namespace {
 
 volatile std::sig_atomic_t interrupted = 0;
+void (*volatile lastResort)() = nullptr;
 
-void OnSignal(int) {
-  interrupted = 1;
+// The second one ends the process.
+void OnSignal(int signal) {
+  if (interrupted == 0) {
+    interrupted = 1;
+    return;
+  }
+  if (lastResort) lastResort();
+  std::signal(signal, SIG_DFL);
+  std::raise(signal);
 }
 
 void Install(void (*handler)(int)) {
   struct sigaction action {};
   action.sa_handler = handler;
-  // The next one ends the process; a read from the terminal ends with this one.
-  action.sa_flags = static_cast<int>(SA_RESETHAND);
+  // Without SA_RESTART: a read from the terminal ends with it.
   sigemptyset(&action.sa_mask);
   sigaction(SIGINT, &action, nullptr);
 }
@@ -37,6 +44,20 @@ SignalWatch::~SignalWatch() {
 
 bool SignalWatch::Interrupted() const {
   return interrupted != 0;
+}
+
+void SignalWatch::Interrupt() {
+  interrupted = 1;
+  Check();
+}
+
+void SignalWatch::Resume() {
+  interrupted = 0;
+  handled_ = false;
+}
+
+void SignalWatch::SetLastResort(void (*restore)()) {
+  lastResort = restore;
 }
 
 void SignalWatch::Check() {

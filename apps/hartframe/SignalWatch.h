@@ -18,6 +18,12 @@ class SignalWatch {
   // What is done about it, on the thread of the message loop.
   void SetHandler(std::function<void()> handler) { handler_ = std::move(handler); }
   bool Interrupted() const;
+  // As if a Ctrl-C had come.
+  void Interrupt();
+  // What was interrupted has ended, and the next Ctrl-C is the first one again.
+  void Resume();
+  // What is done before a second Ctrl-C ends the process; safe in a signal handler.
+  static void SetLastResort(void (*restore)());
   // Runs the handler when a Ctrl-C has come since the last time. A timer does so too; this is for
   // those who work long without letting the message loop run.
   void Check();

@@ -88,6 +88,7 @@ class Speech {
   explicit Speech(std::string language) : language_(std::move(language)) {}
 
   const std::string& Language() const { return language_; }
+  void SetLanguage(std::string language) { language_ = std::move(language); }
   // The text with {0}, {1}, … replaced by the arguments.
   std::string operator()(Text text, std::initializer_list<std::string_view> arguments = {}) const;
   // The same of a multilingual text.

@@ -1,6 +1,6 @@
 #include "hartframe/Changes.h"
 #include "hartframe/Commands.h"
-#include "hartframe/DataSet.h"
+#include "hartframe/Transfers.h"
 #include "types/TextKey.h"
 
 namespace hartframe {
@@ -33,14 +33,19 @@ bool MayDiscard(Session& session, const std::vector<Change>& pending) {
 
 }  // namespace
 
+Loaded LoadDiscarding(Session& session) {
+  Loaded loaded = LoadDataSet(session);
+  session.Pending().Save({});
+  return loaded;
+}
+
 ExitCode RunUpload(Session& session) {
   const std::vector<Change> pending = LoadPending(session);
   if (!MayDiscard(session, pending)) {
     session.Tell().Problem("uploadKept", session.Say()(Text::UploadKept));
     return session.Interrupted() ? ExitCode::Interrupted : ExitCode::NotAllowed;
   }
-  const Loaded loaded = LoadDataSet(session);
-  session.Pending().Save({});
+  const Loaded loaded = LoadDiscarding(session);
   session.Tell().Variables(loaded.rows);
   TellLoaded(session, loaded);
   return loaded.code;

@@ -180,6 +180,13 @@ Variant ParseValue(std::string_view text, const Variable& variable) {
   }
 }
 
+std::optional<Variant> AcceptedValue(std::string_view text, const Variable& variable) {
+  Variant value;
+  const bool read = ZAFHartTypes::IgnoreFailures([&] { value = ParseValue(text, variable); });
+  if (read && variable.CheckValue(value, true)) return value;
+  return std::nullopt;
+}
+
 std::string StoredText(const Variant& value, const Variable& variable) {
   const TypeInfo& type = variable.TypeInfo();
   if (type.TypeCode() == TypeCode::Date) return FormatDate(value.ToBits32());

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -14,6 +15,13 @@ namespace hartframe {
 // yyyy-MM-dd or in the user's short form; texts as they are. Raises TypeMismatch for what the
 // variable's type cannot take; the limits are not looked at.
 ZAFHartTypes::Variant ParseValue(std::string_view text, const ZAFHartTypes::Variable& variable);
+
+// The value when the variable accepts it, limits included; nothing otherwise.
+std::optional<ZAFHartTypes::Variant> AcceptedValue(std::string_view text,
+                                                   const ZAFHartTypes::Variable& variable);
+// Why it does not: a sentence with what is allowed.
+std::string RefusalSentence(std::string_view text, const ZAFHartTypes::Variable& variable,
+                            const Speech& speech);
 
 // Text that ParseValue reads back, whatever language and locale: for files.
 std::string StoredText(const ZAFHartTypes::Variant& value, const ZAFHartTypes::Variable& variable);

@@ -1,5 +1,6 @@
 #include "hartframe/Changes.h"
 #include "hartframe/Commands.h"
+#include "hartframe/Transfers.h"
 #include "hartframe/WriteWatch.h"
 
 namespace hartframe {
@@ -14,6 +15,8 @@ void TellWritten(Session& session, const std::vector<WriteResult>& results) {
   session.Tell().Note("written", session.Say()(Text::Written, {std::to_string(written),
                                                                std::to_string(results.size())}));
 }
+
+}  // namespace
 
 ExitCode WriteAndTell(Session& session, const std::vector<Change>& notAccepted) {
   const std::vector<ZAFHartTypes::Definition> variables = PendingVariables(session);
@@ -33,8 +36,6 @@ ExitCode WriteAndTell(Session& session, const std::vector<Change>& notAccepted) 
   }
   return Worse(ExitCodeOf(results), notAccepted.empty() ? ExitCode::Ok : ExitCode::ValueRefused);
 }
-
-}  // namespace
 
 ExitCode RunWrite(Session& session) {
   RequireWriteAccess(session);

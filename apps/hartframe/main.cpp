@@ -28,6 +28,8 @@ ExitCode RunCommand(Session& session) {
       return RunMenu(session);
     case CommandKind::Run:
       return RunMethod(session);
+    case CommandKind::Browse:
+      return RunBrowse(session);
     case CommandKind::Info:
     case CommandKind::ProbePlugin:
       break;
@@ -35,8 +37,7 @@ ExitCode RunCommand(Session& session) {
   return RunInfo(session);
 }
 
-ExitCode RunSession(const Options& options, Console& console, const Speech& speech,
-                    Report& report) {
+ExitCode RunSession(const Options& options, Console& console, Speech& speech, Report& report) {
   try {
     Session session(options, console, speech, report);
     session.Open();
@@ -55,7 +56,7 @@ int Run(const Options& options) {
   if (options.command == CommandKind::ProbePlugin) return RunPluginProbe(options.plugin);
   platform::Current().Locale() = platform::UserLocale::FromEnvironment();
   Console console;
-  const Speech speech(options.language);
+  Speech speech(options.language);
   std::unique_ptr<Report> report;
   if (options.json)
     report = std::make_unique<JsonReport>(console, options);

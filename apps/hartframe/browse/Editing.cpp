@@ -1,0 +1,70 @@
+#include "hartframe/browse/Editing.h"
+
+#include "hartframe/Reading.h"
+#include "hartframe/browse/BrowseTexts.h"
+#include "hartframe/browse/ValueEditor.h"
+
+namespace hartframe::browse {
+
+using ZAFHartTypes::AccessMode;
+using ZAFHartTypes::Definition;
+using ZAFHartTypes::ItemIndex;
+using ZAFHartTypes::Variable;
+using ZAFHartTypes::Variant;
+
+std::string WhyNotEditable(const Row& row, const std::string& why, const Speech& speech) {
+  const Variable& variable = *row.view.variable->variable;
+  if (!variable.Validity()) return speech(Text::NotValidNow, {row.view.label});
+  if (!variable.CheckHandling(AccessMode::Write) || (row.item.readOnly && why.empty()))
+    return speech(Text::NotWritable, {row.view.label});
+  return row.item.readOnly ? row.view.label + ": " + why : std::string();
+}
+
+void Editing::Edit(Page& page, const Row& row) {
+  Field field = session_.Variable(row.item.definition);
+  if (!Enter(page, field)) return;
+  const std::string help = session_.Say().Pick(field->Help());
+  const auto edited =
+      EditValue(screen_, session_.Say(), *field, {DialogStyle::Input, row.view.label, {}, help});
+  edited_ = row.item.definition;
+  value_ = edited && edited->isChanged ? edited->value : Variant::Null();
+  refusal_.clear();
+  Leave(page, field);
+  edited_ = {};
+  if (edited && edited->isChanged) TellOutcome(row);
+}
+
+bool Editing::Enter(Page& page, Field& field) {
+  return screen_.Work([&] {
+    // So that limits and unit are the device's.
+    ThoroughReader(session_).Read(field->Definition());
+    page.Enter(field);
+  });
+}
+
+void Editing::Leave(Page& page, Field& field) {
+  screen_.Work([&] { page.Leave(field); });
+}
+
+void Editing::TellOutcome(const Row& row) {
+  const auto variable = session_.Variable(row.item.definition);
+  const std::string value = DisplayWithUnit(*variable, variable->Value(), session_.Say());
+  if (!refusal_.empty()) {
+    screen_.Tell(Tone::Bad, session_.Say()(texts::kRefused, {row.view.label, refusal_, value}));
+  } else if (variable->ToBeWritten()) {
+    screen_.Tell(Tone::Pending, session_.Say()(texts::kWillBeWritten, {row.view.label, value}));
+  }
+}
+
+Variant Editing::EditedValue(const Definition& variable) const {
+  return edited_ && edited_.IsSameAs(variable) ? value_ : Variant::Null();
+}
+
+void Editing::OnShown(const ZAFHartTypes::DDObject& object) {
+  if (!edited_ || !edited_.IsSameAs(object.ObjectDefinition())) return;
+  const auto* variable = dynamic_cast<const Variable*>(&object);
+  if (variable && variable->ErrorIndex() == static_cast<std::int32_t>(ItemIndex::NotWritable))
+    refusal_ = session_.Say().Pick(variable->ErrorText());
+}
+
+}  // namespace hartframe::browse
