@@ -103,6 +103,27 @@ TEST_F(BuiltinCommands, StatusMasksDecide) {
   }
 }
 
+// What an action sends of its own is not the result of the command that it belongs to.
+TEST_F(BuiltinCommands, HaveTheirOwnResult) {
+  model->Add<Method>("after");
+  model->objects[0]
+      ->MakeVariable()
+      ->EditActions(ActionList::PostWrite)
+      .Add(Def("after", ObjectKind::Method));
+  model->bodies["after"] = [this](IDDKernel&, const std::shared_ptr<DDObject>&, bool) {
+    comm->replies = true;
+    Run([](CDDBuiltinLib& lib) { EXPECT_EQ(lib.SendCommand(7), 0); });
+  };
+  Start();
+  SetClean("a", std::int16_t{3});
+  comm->replies = false;
+  Run([](CDDBuiltinLib& lib) {
+    lib.SetCommStatus(0xFF, StatusHandling::Ignore);
+    EXPECT_EQ(lib.SendCommand(6), -3);
+    EXPECT_TRUE(lib.IsAbort());
+  });
+}
+
 TEST_F(BuiltinCommands, FetchTheAdditionalStatusWhenThereIsSome) {
   Start();
   ByteBuffer status, more{9, 9}, info{7, 7, 7};

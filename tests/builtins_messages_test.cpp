@@ -54,6 +54,24 @@ TEST_F(BuiltinMessages, SpeakTheUsersLanguage) {
                                             "48 -1 Nachricht: Vorgang abgebrochen", "hide 2"));
 }
 
+// A reference whose variable has no value shows nothing, not the value of an earlier prompt.
+TEST_F(BuiltinMessages, ShowNoValueThatIsNotTheVariables) {
+  Start();
+  comm->replies = false;
+  SetClean("b", std::int16_t{2});
+  Run([](CDDBuiltinLib& lib) {
+    const std::int32_t b = lib.VARID("b");
+    const std::int32_t a = lib.VARID("a");
+    lib.PutMessage("%{0}", {b});
+    lib.PutMessage("%[L]{0}=%{0}.", {a});
+    lib.PutMessage("%{0}.", {-1});
+    lib.Display("%{0}.", {99, -1});
+  });
+  TakeErrors();
+  EXPECT_THAT(messages->Take(), ElementsAre("64 2 Test: 2", "hide 1", "64 2 Test: =.", "hide 2",
+                                            "64 2 Test: .", "hide 3", "64 1 Test: .", "hide 4"));
+}
+
 TEST_F(BuiltinMessages, CancelledAbortTheMethod) {
   using Body = void (*)(CDDBuiltinLib&);
   const Body bodies[] = {

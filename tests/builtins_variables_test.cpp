@@ -72,6 +72,36 @@ TEST_F(BuiltinVariables, OfAMethodWithinAMethodKeepApart) {
   EXPECT_EQ(Value("a"), 6);
 }
 
+TEST_F(BuiltinVariables, ThatWereOnlyReadKeepWhatOthersWrote) {
+  Start();
+  Run([&](CDDBuiltinLib& lib) {
+    EXPECT_EQ(lib.LongValue("a"), 1);
+    Set("a", std::int16_t{33});  // the user, while a message is shown
+  });
+  EXPECT_EQ(Value("a"), 33);
+  EXPECT_TRUE(Stored("a")->ToBeWritten());
+}
+
+// A value that a method three levels down has saved stays.
+TEST_F(BuiltinVariables, SavedWithinStaySavedOnEveryLevel) {
+  Start();
+  const auto save = [this] {
+    Run([](CDDBuiltinLib& lib) {
+      lib.AssignLong("a", 7);
+      lib.SaveValues();
+    });
+  };
+  Run([&](CDDBuiltinLib& outer) {
+    outer.AssignLong("a", 5);
+    Run([&](CDDBuiltinLib& middle) {
+      middle.AssignLong("a", 6);
+      save();
+    });
+    EXPECT_EQ(Value("a"), 7);
+  });
+  EXPECT_EQ(Value("a"), 7);
+}
+
 // What the device was given stands there: the old value is not shown as if it were the device's.
 TEST_F(BuiltinVariables, SentAndNotSavedAreReadAgain) {
   Start();
@@ -116,6 +146,19 @@ TEST_F(BuiltinVariables, AnActionReadsAndSetsItsOwn) {
   EXPECT_FALSE(Stored("c")->ToBeWritten());
   EXPECT_TRUE(Stored("c")->Available());
 
+  // It stays when the action also shows its variable, and is never sent.
+  database->SetSynchronousMode(true);
+  comm->sent.clear();
+  Run(
+      [&](CDDBuiltinLib& lib) {
+        lib.PutMessage("%{0}", {lib.VARID("c")});
+        lib.Lsetval(9);
+      },
+      Stored("c"), "action");
+  EXPECT_EQ(Value("c"), 9);
+  EXPECT_THAT(comm->sent, IsEmpty());
+  Run([](CDDBuiltinLib& lib) { lib.Fsetval(2.5); }, Stored("c"), "action");
+
   Run([&](CDDBuiltinLib& lib) { EXPECT_EQ(lib.Lgetval(), 0); },
       database->ReadObject(Def("method", ObjectKind::Method)));
   EXPECT_THAT(TakeErrors(), IsEmpty());
@@ -127,6 +170,33 @@ TEST_F(BuiltinVariables, AnActionReadsAndSetsItsOwn) {
       Stored("c"));
   EXPECT_THAT(TakeErrors(), ElementsAre(HasSubstr("Wrong context!")));
   EXPECT_EQ(Stored("c")->Value(), Variant(2.5));
+}
+
+// An action after the edit corrects what the user has typed, who wants it in the device.
+TEST_F(BuiltinVariables, ACorrectedEditIsStillToBeWritten) {
+  variable("a").EditActions(ActionList::PostEdit).Add(Def("action", ObjectKind::Method));
+  Start();
+  Set("a", std::int16_t{4});
+  Run([](CDDBuiltinLib& lib) { lib.Lsetval(5); }, Stored("a"), "action");
+  EXPECT_EQ(Value("a"), 5);
+  EXPECT_TRUE(Stored("a")->ToBeWritten());
+}
+
+// Neither a break nor a torn-down instance lets the method's loop go on.
+TEST_F(BuiltinVariables, EndTheMethodWithTheirInstance) {
+  Start();
+  comm->failure = ErrorNumber::Cancelled;
+  Run([](CDDBuiltinLib& lib) {
+    EXPECT_EQ(lib.LongValue("a"), 0);
+    EXPECT_TRUE(lib.IsAbort());
+  });
+  comm->failure.reset();
+  Run([&](CDDBuiltinLib& lib) {
+    components->database = nullptr;
+    EXPECT_EQ(lib.LongValue("b"), 0);
+    EXPECT_TRUE(lib.IsAbort());
+  });
+  components->database = database;
 }
 
 // The variable that a method was started from is read again when the method's code changed it.

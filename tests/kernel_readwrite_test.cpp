@@ -263,11 +263,13 @@ TEST_F(KernelReadWrite, KeepsTheMarkOfAValueThatIsNewerThanTheOneSent) {
 TEST_F(KernelReadWrite, PassesAFailedExchangeOnFromAWriteAndSwallowsItInARead) {
   Start();
   SetClean("b", std::int16_t{2});
-  comm->failure = ErrorNumber::Cancelled;
+  comm->failure = ErrorNumber::Unexpected;
   EXPECT_THROW(kernel->WriteVariable(Var("a"), std::int16_t{9}), Failure);
   EXPECT_TRUE(Stored("a")->ToBeWritten());
   EXPECT_NO_THROW(kernel->ReadVariable(Var("c")));
   EXPECT_FALSE(Stored("c")->Available());
+  comm->failure = ErrorNumber::Cancelled;  // the user's break ends a read, too
+  EXPECT_THROW(kernel->ReadVariable(Var("c")), Failure);
   EXPECT_FALSE(database->IsVariableInReadRecursion(Var("c")));
 }
 

@@ -4,6 +4,7 @@
 
 #include <bit>
 
+#include "platform/ForeignCall.h"
 #include "resources/ResText.h"
 #include "text/DisplayString.h"
 #include "text/LangText.h"
@@ -39,11 +40,14 @@ bool IsBlank(std::string_view text) {
 }  // namespace
 
 CDDBuiltinLib::~CDDBuiltinLib() {
-  IgnoreFailures([this] {
+  const auto end = [](auto step) {
+    IgnoreFailures([&] { platform::CallForeign("CDDBuiltinLib", step); });
+  };
+  end([this] {
     if (displayId_ != 0) model_.Gui()->HideUserMessage(displayId_);
   });
-  IgnoreFailures([this] { RestoreTouched(); });
-  IgnoreFailures([this] { WriteBackCurrentVariable(); });
+  end([this] { RestoreTouched(); });
+  end([this] { WriteBackCurrentVariable(); });
 }
 
 void CDDBuiltinLib::SetComponentModel(const std::shared_ptr<IDDComponents>& components) {
@@ -96,8 +100,10 @@ void CDDBuiltinLib::RemoveAbortMethod(const std::string& methodName) {
 }
 
 void CDDBuiltinLib::Abort(bool userNotify) {
-  if (userNotify) Show(MessageIcon::Exclamation, MessageTitle(), StandardText(idStrAbort));
   isAbort_ = true;
+  if (!userNotify) return;
+  HideMessage();
+  Show(MessageIcon::Exclamation, MessageTitle(), StandardText(idStrAbort));
 }
 
 // --- masks ---
@@ -164,26 +170,33 @@ std::string CDDBuiltinLib::PreparePrompt(std::string_view prompt,
                                          std::span<const std::int32_t> ids) {
   const std::string language = model_.Gui()->LanguageID();
   if (!methodState_) methodState_ = std::make_shared<PromptValues>();
+  for (const std::string& key : std::exchange(promptKeys_, {})) methodState_->Remove(key);
   for (std::size_t i = 0; i < ids.size(); ++i) {
     if (ids[i] <= 0) continue;
     IgnoreFailures([&] {
       const auto variable = GetMethodVariable(variableIds_.Item(static_cast<std::size_t>(ids[i])));
       const std::string key = std::to_string(i);
-      methodState_->Set(key, ZAFHartLib::LangText(GetVariableDisplayString(*variable), language));
-      methodState_->Set(key + "LABEL", ZAFHartLib::LangText(variable->Label(), language));
+      SetPromptValue(key + "LABEL", ZAFHartLib::LangText(variable->Label(), language));
+      if (variable->Value().IsEmpty()) return;  // never read: it has no value to show
+      SetPromptValue(key, ZAFHartLib::LangText(GetVariableDisplayString(*variable), language));
     });
   }
   return FormatDDString(ZAFHartLib::LangText(WithoutPadding(prompt), language), *methodState_);
 }
 
+void CDDBuiltinLib::SetPromptValue(const std::string& key, std::string text) {
+  methodState_->Set(key, std::move(text));
+  promptKeys_.push_back(key);
+}
+
 // --- the method cannot go on ---
 
 void CDDBuiltinLib::FailMethod(const std::string& message) {
+  Abort();
+  RemoveAllAbortMethod();
   HideMessage();
   model_.Gui()->EvaluationError(StandardText(idInternalError) + kNewLine +
                                 StandardText(idActionAborted) + kNewLine + message);
-  Abort();
-  RemoveAllAbortMethod();
 }
 
 void CDDBuiltinLib::FailMethod(enumDDResourceIDs id, TextValues values) {

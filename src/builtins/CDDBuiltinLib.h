@@ -1,9 +1,11 @@
 #pragma once
 
 #include <array>
+#include <functional>
 #include <initializer_list>
 #include <optional>
 #include <span>
+#include <unordered_map>
 #include <utility>
 
 #include "builtins/StatusMasks.h"
@@ -85,10 +87,14 @@ class CDDBuiltinLib : public platform::Object,
   std::int32_t GetMoreStatus(ByteBuffer& moreStatus, ByteBuffer& moreInfo) override;
 
   // --- variables ---
-  bool AssignDouble(const std::string& name, double value) override { return Assign(name, value); }
-  bool AssignFloat(const std::string& name, float value) override { return Assign(name, value); }
+  bool AssignDouble(const std::string& name, double value) override {
+    return Assign(name, [value] { return value; });
+  }
+  bool AssignFloat(const std::string& name, float value) override {
+    return Assign(name, [value] { return value; });
+  }
   bool AssignLong(const std::string& name, std::int32_t value) override {
-    return Assign(name, value);
+    return Assign(name, [value] { return value; });
   }
   bool AssignInt(const std::string& name, std::int16_t value) override {
     return AssignLong(name, value);
@@ -145,6 +151,7 @@ class CDDBuiltinLib : public platform::Object,
   std::string StandardText(std::int32_t id);
   std::string MessageTitle();
   std::string PreparePrompt(std::string_view prompt, std::span<const std::int32_t> ids);
+  void SetPromptValue(const std::string& key, std::string text);
   void FailMethod(const std::string& message);
   void FailMethod(enumDDResourceIDs id, TextValues values);
 
@@ -155,13 +162,21 @@ class CDDBuiltinLib : public platform::Object,
   bool IsDefined(const Definition& definition);
   std::shared_ptr<Variable> CurrentVariable() const;
   bool CheckContext();
-  bool Assign(const std::string& name, const Variant& value);
+  // Runs what the DD code is only told "it failed" about. A break by the user and the end of the
+  // DTM instance also abort the method.
+  template <typename Action>
+  bool Attempt(Action action);
+  bool Assign(const std::string& name, const std::function<Variant()>& value);
+  bool AssignText(const Variant& name, const Variant& text);
+  void AssignTo(const Variable& variable, const Variant& value);
   template <typename Number>
   Number NamedValue(const std::string& name, Number (Variant::*convert)() const);
   template <typename Number>
   Number CurrentValue(Number (Variant::*convert)() const);
   template <typename Number>
   Number SetCurrentValue(Number value);
+  bool IsActionOf(ZAFHartTypes::ActionList list) const;
+  void ForgetKept(const Definition& definition);
   void RestoreTouched();
   void WriteBackCurrentVariable();
 
@@ -183,6 +198,7 @@ class CDDBuiltinLib : public platform::Object,
   void EvaluateStatus(const StatusMasks& masks, const ByteBuffer& status);
 
   void HideMessage();
+  // Callers hide the message on display first, before they make the texts of the next.
   std::int32_t Show(MessageIcon icon, std::string title, std::string prompt,
                     std::int32_t delay = ZAFHartTypes::kWaitForUser,
                     std::shared_ptr<Variable> input = {});
@@ -191,6 +207,7 @@ class CDDBuiltinLib : public platform::Object,
   // Asks for the value of `input`; false when the user cancelled.
   bool Ask(MessageIcon icon, std::string title, std::string_view prompt,
            std::span<const std::int32_t> ids, const std::shared_ptr<Variable>& input);
+  void ShowStatus(MessageIcon icon, enumDDResourceIDs title, std::string text);
   std::string BitTexts(std::int16_t status, std::int32_t firstText);
   std::optional<std::string> ResponseText(std::int16_t number, std::int16_t responseCode);
   std::string StatusText(const std::string& variableName, std::int16_t status,
@@ -204,6 +221,7 @@ class CDDBuiltinLib : public platform::Object,
   std::shared_ptr<ZAFHartTypes::DDObject> currentObject_;
   std::string methodName_;
   std::shared_ptr<ZAFHartTypes::PromptValues> methodState_;
+  std::vector<std::string> promptKeys_;  // of the last prompt's variables in the method state
 
   std::int32_t biRc_ = 0;
   bool isAbort_ = false;
@@ -217,16 +235,17 @@ class CDDBuiltinLib : public platform::Object,
   ZAFHartTypes::DefinitionList abortMethods_;
 
   // A variable used since the last save. Its state before stands here when the method that has
-  // called this one keeps an earlier one in the database; otherwise the database keeps it.
+  // called this one keeps an earlier one in the database; otherwise the database keeps it. What
+  // the method has only read is left alone when it ends: others may have changed it.
   struct Touched {
     Definition definition;
     std::shared_ptr<Variable> before;
+    bool isAssigned = false;
   };
   ZAFHartTypes::KeyedList<Touched> touched_;
   ZAFHartTypes::DefinitionList variableIds_;  // in order of first use; ids count from 1
   std::int32_t displayId_ = 0;                // of the message on display; 0 when there never was
-  std::int16_t cachedNumber_ = -1;
-  Definition cachedCommand_;
+  std::unordered_map<std::int16_t, Definition> commands_;  // found so far, by number
 };
 
 }  // namespace ZAFHartLib

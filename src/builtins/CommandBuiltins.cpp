@@ -3,6 +3,7 @@
 #include "builtins/CDDBuiltinLib.h"
 #include "ddobjects/Command.h"
 #include "types/Failure.h"
+#include "workerdb/CDDWorkerDB.h"
 
 namespace ZAFHartLib {
 
@@ -17,7 +18,9 @@ constexpr std::uint8_t kMoreStatusAvailable = 0x10;  // in the device status
 constexpr auto kNotInDD = static_cast<std::int32_t>(CommResult::NotInDD);
 constexpr auto kNoDevice = static_cast<std::int32_t>(CommResult::NoDevice);
 
+// 0 for an item that the reply does not have.
 std::uint8_t StatusItem(const Transaction& transaction, std::size_t position) {
+  if (position > transaction.Reply().Count()) return 0;
   const Variant value = transaction.Reply().Item(position).Value();
   return static_cast<std::uint8_t>(value.ToLong() & 0xFF);
 }
@@ -52,20 +55,17 @@ std::shared_ptr<Transaction> Chosen(const Command& command, std::optional<std::i
 
 }  // namespace
 
-// Walks the commands as they are; a number may depend on values.
+// The first in database order. Numbers are computed attributes.
 Definition CDDBuiltinLib::FindCommandByNumber(std::int16_t number) {
-  if (cachedCommand_ && cachedNumber_ == number) return cachedCommand_;
-  const auto database = model_.Database();
+  const auto known = commands_.find(number);
+  if (known != commands_.end()) return known->second;
+  const auto database = Database();
   const auto kernel = model_.Kernel();
-  for (std::int32_t position = 1;; ++position) {
-    position = database->FindNextObject(position, ObjectKind::Command);
-    if (position < 0) return {};
-    const auto command = kernel->GetSafeCommand(database->Object(position)->ObjectDefinition());
-    if (!command || command->Number() != number) continue;
-    cachedNumber_ = number;
-    cachedCommand_ = command->Definition();
-    return cachedCommand_;
+  for (const auto& [key, definition] : database->ListOfKind(ObjectKind::Command)) {
+    const auto command = kernel->GetSafeCommand(definition);
+    if (command && command->Number() == number) return commands_[number] = definition;
   }
+  return {};
 }
 
 CDDBuiltinLib::Request CDDBuiltinLib::FindRequest(std::int16_t number,
@@ -81,8 +81,8 @@ CDDBuiltinLib::Request CDDBuiltinLib::FindRequest(std::int16_t number,
     request.transaction = Chosen(*request.command, transaction);
   });
   if (!request.transaction) {
-    const std::string which = transaction ? std::to_string(*transaction) : std::string();
-    FailMethod(idErrCommand, {{"s", std::to_string(number) + ", Transaction " + which}});
+    FailMethod(idErrCommand, {{"s", std::to_string(number) + ", Transaction " +
+                                        std::to_string(transaction.value_or(0))}});
     return {};
   }
   return request;

@@ -108,7 +108,8 @@ double RoundHalfEven(double value, std::int32_t decimals) {
   if (decimals < 0) throw Failure(ErrorNumber::InvalidProcedureCall, "Func2");
   if (decimals > kMostDecimals || !std::isfinite(value)) return value;
   const long double factor = std::pow(10.0L, static_cast<long double>(decimals));
-  return static_cast<double>(std::nearbyint(static_cast<long double>(value) * factor) / factor);
+  const long double rounded = std::nearbyint(static_cast<long double>(value) * factor) / factor;
+  return std::isfinite(rounded) ? static_cast<double>(rounded) : value;
 }
 
 }  // namespace ZAFHartLib

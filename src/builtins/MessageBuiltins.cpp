@@ -40,13 +40,13 @@ std::shared_ptr<Variable> InputFor(const Variant& local) {
 EnumList OptionsOf(std::string_view options) {
   constexpr char kSeparator = ';';
   EnumList items;
-  std::int32_t number = 0;
-  while (!options.empty()) {
-    const std::size_t end = std::min(options.find(kSeparator), options.size());
-    items.Add(EnumItem(number++, std::string(options.substr(0, end))));
-    options.remove_prefix(std::min(end + 1, options.size()));
+  if (options.empty()) return items;
+  for (std::int32_t number = 0;; ++number) {
+    const std::size_t end = options.find(kSeparator);
+    items.Add(EnumItem(number, std::string(options.substr(0, end))));
+    if (end == std::string_view::npos) return items;
+    options.remove_prefix(end + 1);
   }
-  return items;
 }
 
 }  // namespace
@@ -58,7 +58,6 @@ void CDDBuiltinLib::HideMessage() {
 
 std::int32_t CDDBuiltinLib::Show(MessageIcon icon, std::string title, std::string prompt,
                                  std::int32_t delay, std::shared_ptr<Variable> input) {
-  HideMessage();
   UserMessage message;
   message.displayId = displayId_;
   message.icon = icon;
@@ -74,11 +73,14 @@ std::int32_t CDDBuiltinLib::Show(MessageIcon icon, std::string title, std::strin
 
 std::int32_t CDDBuiltinLib::Prompt(std::string_view prompt, std::span<const std::int32_t> ids,
                                    std::int32_t delay) {
-  return Show(MessageIcon::Information, MessageTitle(), PreparePrompt(prompt, ids), delay);
+  HideMessage();
+  std::string title = MessageTitle();
+  return Show(MessageIcon::Information, std::move(title), PreparePrompt(prompt, ids), delay);
 }
 
 bool CDDBuiltinLib::Ask(MessageIcon icon, std::string title, std::string_view prompt,
                         std::span<const std::int32_t> ids, const std::shared_ptr<Variable>& input) {
+  HideMessage();
   return Show(icon, std::move(title), PreparePrompt(prompt, ids), kWaitForUser, input) !=
          kMessageCancelled;
 }
@@ -99,9 +101,8 @@ void CDDBuiltinLib::Display(const std::string& prompt, const VariableIds& ids) {
   const std::int32_t result = Prompt(prompt, ids, kDisplaySeconds);
   if (result != 0 && result != kMessageTimedOut) return;
   for (const std::int32_t id : ids) {
-    if (id == 0) continue;
-    const auto variable = GetMethodVariable(variableIds_.Item(static_cast<std::size_t>(id)));
-    Database()->SetVariableAvailable(variable->Definition(), false);
+    if (id <= 0 || static_cast<std::size_t>(id) > variableIds_.Count()) continue;
+    Database()->SetVariableAvailable(variableIds_.Item(static_cast<std::size_t>(id)), false);
   }
 }
 
@@ -111,7 +112,7 @@ std::int32_t CDDBuiltinLib::GetDevVarValue(const std::string& prompt, const Vari
   if (!Ask(MessageIcon::Input, StandardText(idTitleInputMessage), prompt, ids, variable)) {
     return kCancelled;
   }
-  Database()->WriteValue(variable->Definition(), variable->Value());
+  AssignTo(*variable, variable->Value());
   return 0;
 }
 

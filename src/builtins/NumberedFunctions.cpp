@@ -53,7 +53,7 @@ Variant CDDBuiltinLib::Func2(std::int32_t id, const Variant& par1, const Variant
     case kTextsAreEqual:
       return par1.ToText() == par2.ToText();
     case kAssignText:
-      return Assign(par1.ToText(), par2.ToText());
+      return AssignText(par1, par2);
     case kErrorDisplay:
       ShowErrorDisplay(par1.ToText(), IdsOf(par2));
       return {};
@@ -67,7 +67,9 @@ bool CDDBuiltinLib::RunMethodNamed(const std::string& name) {
   const auto method = Definition::Define(name, ObjectKind::Method);
   const auto stored = Database()->ReadObject(method);
   if (!stored || stored->Kind() != ObjectKind::Method) return false;
-  model_.Model()->DDKernelExtension()->ExecuteMethod(method, currentObject_, false);
+  const auto kernel = model_.Model()->DDKernelExtension();
+  if (!kernel) return false;
+  kernel->ExecuteMethod(method, currentObject_, false);
   return true;
 }
 
@@ -80,8 +82,10 @@ void CDDBuiltinLib::UploadToOfflineDataSet(const std::string& name) {
 }
 
 void CDDBuiltinLib::ShowErrorDisplay(const std::string& prompt, const VariableIds& ids) {
-  Show(MessageIcon::Critical, MessageTitle(), PreparePrompt(prompt, ids));
   ProcessAbort();
+  HideMessage();
+  std::string title = MessageTitle();
+  Show(MessageIcon::Critical, std::move(title), PreparePrompt(prompt, ids));
 }
 
 void CDDBuiltinLib::AddUnit(std::int32_t code, double factor, double offset,

@@ -21,6 +21,11 @@ void AddLine(std::string& text, const std::string& line, const char* newLine) {
 
 }  // namespace
 
+void CDDBuiltinLib::ShowStatus(MessageIcon icon, enumDDResourceIDs title, std::string text) {
+  HideMessage();
+  Show(icon, StandardText(title), std::move(text));
+}
+
 // One line per bit; bit 0 has the text of number `firstText`.
 std::string CDDBuiltinLib::BitTexts(std::int16_t status, std::int32_t firstText) {
   std::string text;
@@ -37,7 +42,7 @@ void CDDBuiltinLib::DisplayCommStatus(std::int16_t status) {
   if (text.empty()) {
     FailMethod(idErrCommStatus, {{"s", status}});
   } else {
-    Show(MessageIcon::Exclamation, StandardText(idCommStatusEntry), text);
+    ShowStatus(MessageIcon::Exclamation, idCommStatusEntry, text);
   }
 }
 
@@ -46,7 +51,7 @@ void CDDBuiltinLib::DisplayDeviceStatus(std::int16_t status) {
   if (text.empty()) {
     FailMethod(idErrDeviceStatus, {{"s", status}});
   } else {
-    Show(MessageIcon::Exclamation, StandardText(idDeviceStatusEntry), text);
+    ShowStatus(MessageIcon::Exclamation, idDeviceStatusEntry, text);
   }
 }
 
@@ -69,7 +74,7 @@ std::optional<std::string> CDDBuiltinLib::ResponseText(std::int16_t number,
 
 void CDDBuiltinLib::DisplayResponseStatus(std::int16_t number, std::int16_t responseCode) {
   if (auto text = ResponseText(number, responseCode)) {
-    Show(MessageIcon::Information, StandardText(idResponseCodeEntry), std::move(*text));
+    ShowStatus(MessageIcon::Information, idResponseCodeEntry, std::move(*text));
   }
 }
 
@@ -91,7 +96,8 @@ std::string CDDBuiltinLib::StatusText(const std::string& variableName, std::int1
   }
   std::string text;
   for (const BitItem& bit : variable->TypeInfo().BitItems()) {
-    if ((bit.Value() & status) != 0) AddLine(text, LangText(bit.Description()), kNewLine);
+    if ((bit.Value() & static_cast<std::uint16_t>(status)) != 0)
+      AddLine(text, LangText(bit.Description()), kNewLine);
   }
   if (text.empty()) FailMethod(error, {{"s1", variableName}, {"s2", status}});
   return text;
@@ -100,7 +106,7 @@ std::string CDDBuiltinLib::StatusText(const std::string& variableName, std::int1
 void CDDBuiltinLib::DisplayXmtrStatus(const std::string& variableName, std::int16_t status) {
   std::string text = StatusText(variableName, status, idErrXmtrStatus);
   if (text.empty()) return;
-  Show(MessageIcon::Information, StandardText(idDeviceStatusEntry), std::move(text));
+  ShowStatus(MessageIcon::Information, idDeviceStatusEntry, std::move(text));
 }
 
 void CDDBuiltinLib::GetStatusCodeString(const std::string& variableName, std::int16_t status,

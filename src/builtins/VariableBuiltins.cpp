@@ -44,9 +44,12 @@ std::shared_ptr<Variable> CDDBuiltinLib::GetMethodVariable(const Definition& def
   const auto database = Database();
   const bool isKeptByCaller = database->KeepsForMethod(definition);
   auto variable = database->ReadForMethod(definition);
-  if (!touched_.Contains(definition.Key())) {
+  Touched* touched = touched_.Find(definition.Key());
+  if (!touched) {
     touched_.Add(definition.Key(),
                  {variable->Definition(), isKeptByCaller ? variable->Copy() : nullptr});
+  } else if (!isKeptByCaller) {
+    *touched = {variable->Definition(), nullptr};  // a method that this one has run saved it
   }
   if (!variableIds_.Contains(variable->Definition())) variableIds_.Add(variable->Definition());
   return variable;
@@ -60,22 +63,46 @@ bool CDDBuiltinLib::IsDefined(const Definition& definition) {
   return false;
 }
 
-bool CDDBuiltinLib::Assign(const std::string& name, const Variant& value) {
-  return IgnoreFailures(
-      [&] { Database()->WriteValue(GetMethodVariable(name)->Definition(), value); });
+template <typename Action>
+bool CDDBuiltinLib::Attempt(Action action) {
+  try {
+    action();
+    return true;
+  } catch (const Failure& failure) {
+    const bool isOver =
+        failure.Number() == ErrorNumber::Cancelled || failure.Number() == ErrorNumber::ObjectNotSet;
+    if (isOver) ProcessAbort();
+    return false;
+  }
+}
+
+bool CDDBuiltinLib::Assign(const std::string& name, const std::function<Variant()>& value) {
+  return Attempt([&] {
+    const auto variable = GetMethodVariable(name);
+    AssignTo(*variable, value());
+  });
 }
 
 bool CDDBuiltinLib::AssignVar(const std::string& destination, const std::string& source) {
-  return IgnoreFailures([&] {
-    const Definition receiving = GetMethodVariable(destination)->Definition();
-    Database()->WriteValue(receiving, GetMethodVariable(source)->Value());
+  return Assign(destination, [&] { return GetMethodVariable(source)->Value(); });
+}
+
+bool CDDBuiltinLib::AssignText(const Variant& name, const Variant& text) {
+  return Attempt([&] {
+    const Variant value = text.ToText();
+    AssignTo(*GetMethodVariable(name.ToText()), value);
   });
+}
+
+void CDDBuiltinLib::AssignTo(const Variable& variable, const Variant& value) {
+  if (Touched* touched = touched_.Find(variable.Definition().Key())) touched->isAssigned = true;
+  Database()->WriteValue(variable.Definition(), value);
 }
 
 template <typename Number>
 Number CDDBuiltinLib::NamedValue(const std::string& name, Number (Variant::*convert)() const) {
   Number number{};
-  IgnoreFailures([&] { number = (GetMethodVariable(name)->Value().*convert)(); });
+  Attempt([&] { number = (GetMethodVariable(name)->Value().*convert)(); });
   return number;
 }
 
@@ -99,17 +126,21 @@ bool CDDBuiltinLib::CheckContext() {
   const auto variable = CurrentVariable();
   if (!variable) return false;
   for (const ActionList list : kActionLists) {
-    if (Names(variable->Actions(list), methodName_)) return true;
+    if (IsActionOf(list)) return true;
   }
   FailMethod(idErrWrongContext, {});
   return false;
+}
+
+bool CDDBuiltinLib::IsActionOf(ActionList list) const {
+  return Names(CurrentVariable()->Actions(list), methodName_);
 }
 
 template <typename Number>
 Number CDDBuiltinLib::CurrentValue(Number (Variant::*convert)() const) {
   Number number{};
   if (!CheckContext()) return number;
-  IgnoreFailures([&] { number = (CurrentVariable()->Value().*convert)(); });
+  Attempt([&] { number = (CurrentVariable()->Value().*convert)(); });
   return number;
 }
 
@@ -123,14 +154,18 @@ std::int32_t CDDBuiltinLib::Lgetval() {
   return CurrentValue(&Variant::ToLong);
 }
 
+// Not a change by the user, and never sent from here: that would run the same action again. What
+// the user has typed stays to be written when an action after the edit corrects it.
 template <typename Number>
 Number CDDBuiltinLib::SetCurrentValue(Number value) {
   if (!CheckContext()) return 0;
   const auto variable = CurrentVariable();
   const auto database = Database();
   const Definition& definition = variable->Definition();
-  database->WriteValue(definition, value);
-  database->SetVariableToBeWritten(definition, false);
+  const bool isTyped = IsActionOf(ActionList::PostEdit) && variable->ToBeWritten();
+  database->WriteValueLocally(definition, value);
+  database->SetVariableToBeWritten(definition, isTyped);
+  ForgetKept(definition);
   if (const auto stored = database->ReadObject(definition)) {
     variable->CopyFrom(*stored->MakeVariable());
     variable->ForgetChanges();  // they are stored
@@ -176,13 +211,24 @@ bool CDDBuiltinLib::GetDictionaryString(const std::string& /*name*/, std::string
 
 // --- the end of the method ---
 
+// The variable's value is not to be undone.
+void CDDBuiltinLib::ForgetKept(const Definition& definition) {
+  const Touched* touched = touched_.Find(definition.Key());
+  if (!touched) return;
+  if (!touched->before) Database()->SaveValues({definition});
+  touched_.Remove(definition.Key());
+}
+
 void CDDBuiltinLib::RestoreTouched() {
   const auto database = Database();
   for (const auto& [key, variable] : touched_) {
-    if (const auto& before = variable.before) {
+    const auto& before = variable.before;
+    if (before && variable.isAssigned && database->KeepsForMethod(variable.definition)) {
       IgnoreFailures([&] { database->Restore(before); });
-    } else {
+    } else if (!before && variable.isAssigned) {
       database->RestoreValues({variable.definition});
+    } else if (!before) {
+      database->SaveValues({variable.definition});
     }
   }
 }

@@ -123,6 +123,7 @@ bool CDDTestCommWrapper::CompleteLocally(std::int16_t number, Transaction& trans
   lastCommandNumber_ = number;
   lastResult_ = 0;
   status_ = {};
+  replyBytes_.assign(hart::kStatusSize, 0);
   SetErrors(transaction.Reply(), 0, "");
   for (DataItem& item : transaction.Reply()) {
     if (item.IsVariable() && item.Variable()) item.Variable()->SetAvailable(true);

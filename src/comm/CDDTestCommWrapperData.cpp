@@ -130,6 +130,7 @@ bool CDDTestCommWrapper::TakeReply(std::int16_t number, Exchange& exchange,
 
 void CDDTestCommWrapper::TakeNoReply(Transaction& transaction) {
   status_ = kNoReplyStatus;
+  replyBytes_.assign(hart::kStatusSize, 0);
   lastResult_ = static_cast<std::int32_t>(ZAFHartTypes::CommResult::NoDevice);
   SetStatusItems(transaction.Reply(), kNoReplyStatus);
   hadErrors_ = true;

@@ -107,9 +107,10 @@ std::int32_t CDDDTMGUI::ShowUserMessage(UserMessage& message) {
 // The result of the control that showed it: those that do not show messages answer 0 and leave the
 // display as it is.
 std::int32_t CDDDTMGUI::AskAllForMessage(UserMessage& message) {
+  const UserMessage asked = message;
   std::int32_t result = 0;
   controls_.ForEach("IDDDTMGUI_ShowUserMessage", [&](CGUIObj&, IDDDTMGUI& control) {
-    UserMessage shown = message;
+    UserMessage shown = asked;
     const std::int32_t answer = control.ShowUserMessage(shown);
     if (answer != 0) result = answer;
     if (shown.displayId > 0) message.displayId = shown.displayId;

@@ -48,7 +48,8 @@ class IDDBuiltinLib {
   virtual bool IsAbort() const = 0;
   // The last command asks to be sent again.
   virtual bool IsRetry() const = 0;
-  // Methods to run when this one is aborted, in the order they were added.
+  // Methods to run when this one is aborted, in the order they were added. Walk a copy: they may
+  // change the list.
   virtual const DefinitionList& AbortMethodsList() const = 0;
   // Answers false always. A method that is in the list already stays where it is.
   virtual bool AddAbortMethod(const std::string& methodName) = 0;

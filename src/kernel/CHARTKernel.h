@@ -203,6 +203,7 @@ class CHARTKernel : public platform::Object,
   bool IsAccessRestricted();
 
   // --- ReadVariable.cpp ---
+  void ExecuteRead(const CommandRef& command);
   static bool CanBeRead(const Variable& variable);
   void TakeSubstitute(const std::shared_ptr<Variable>& variable) const;
   void BringUnit(const std::shared_ptr<Variable>& variable);

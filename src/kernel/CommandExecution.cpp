@@ -182,7 +182,8 @@ void CHARTKernel::BindRest(DataItemList& items) const {
   }
 }
 
-// What follows an exchange.
+// What follows an exchange. Actions and relations may execute commands of their own, whose result
+// does not stand for this one's.
 void CHARTKernel::Complete(Execution& execution) {
   Transaction& transaction = *execution.transaction;
   StoreWritten(execution);
@@ -190,13 +191,16 @@ void CHARTKernel::Complete(Execution& execution) {
   StoreRead(execution);
   if (execution.IsWrite()) ExecutePostWrites(transaction.Request());
   if (execution.IsRead()) ExecutePostReads(transaction.Reply());
+  Comm()->SetLastResult(execution.lastResult);
   EvaluateResponse(execution);
+  const std::int32_t result = Comm()->LastResult();  // the user's answer to an error, maybe
   for (const DataItem& item : transaction.Request()) {
     if (item.CarriesValue() && item.Variable()->Available()) {
       ExecuteRelations(item.VariableDefinition());
     }
   }
   RefreshReply(transaction.Reply());
+  Comm()->SetLastResult(result);
 }
 
 void CHARTKernel::StoreWritten(Execution& execution) const {

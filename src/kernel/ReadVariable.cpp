@@ -53,7 +53,7 @@ std::shared_ptr<Variable> CHARTKernel::ReadVariable(const Definition& definition
       MarkUnreadable(variable);
       return operation.Return(variable, kUnreadable);
     }
-    IgnoreFailures([&] { ExecuteCommand(command->Command(), command->TransactionNumber()); });
+    ExecuteRead(*command);
     variable = GetVariable(definition);
   }
   recursion.Leave(*variable);
@@ -63,6 +63,15 @@ std::shared_ptr<Variable> CHARTKernel::ReadVariable(const Definition& definition
   operation.Progress(
       2, [&] { return "VARIABLE " + name + ":" + variable->Describe(operation.InfoLevel()); });
   return operation.Return(variable, kDone);
+}
+
+// What fails here stands on the variable; only the user's break ends the operation.
+void CHARTKernel::ExecuteRead(const CommandRef& command) {
+  try {
+    ExecuteCommand(command.Command(), command.TransactionNumber());
+  } catch (const Failure& failure) {
+    if (failure.Number() == ErrorNumber::Cancelled) throw;
+  }
 }
 
 bool CHARTKernel::CanBeRead(const Variable& variable) {

@@ -22,6 +22,7 @@ class PromptValues {
     const auto found = values_.find(FoldCase(key));
     return found == values_.end() ? nullptr : &found->second;
   }
+  void Remove(std::string_view key) { values_.erase(FoldCase(key)); }
   bool IsEmpty() const { return values_.empty(); }
 
  private:
