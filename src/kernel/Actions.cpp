@@ -1,6 +1,7 @@
 // The action methods of variables around reads and writes, and methods themselves.
 
 #include "kernel/KernelOperation.h"
+#include "platform/ForeignCall.h"
 
 namespace ZAFHartLib {
 
@@ -56,7 +57,10 @@ void CHARTKernel::ExecuteMethod(const Definition& definition,
     const auto components = model_.Model();
     const std::string& name = method->Definition().Name();
     for (const auto& model : {deviceModel_, internalModel_}) {
-      if (model) model->ExecuteMethodBody(*this, *components, name, object, inAbort);
+      if (!model) continue;
+      platform::CallForeign("IDDDataModel", [&] {
+        model->ExecuteMethodBody(*this, *components, name, object, inAbort);
+      });
     }
   } else {
     Report(method, ItemIndex::MethodNotValid);

@@ -7,6 +7,7 @@
 #include "kernel/ErrorHandlerScope.h"
 #include "kernel/KernelOperation.h"
 #include "kernel/ScopedValue.h"
+#include "platform/ForeignCall.h"
 #include "workerdb/CDDWorkerDB.h"
 
 namespace ZAFHartLib {
@@ -114,8 +115,10 @@ std::shared_ptr<View> CHARTKernel::ComputedBy(const std::shared_ptr<IDDDataModel
     throw Failure(ErrorNumber::ObjectNotSet, getter.operation,
                   "The kernel has no data model; InitializeDB creates it.");
   }
-  const auto computed =
-      ((*model).*getter.compute)(*this, *model_.Model(), object->ObjectDefinition().Name(), object);
+  const auto computed = platform::CallForeign("IDDDataModel", [&] {
+    return ((*model).*getter.compute)(*this, *model_.Model(), object->ObjectDefinition().Name(),
+                                      object);
+  });
   if (!computed) {
     throw Failure(
         ErrorNumber::ObjectNotSet, getter.operation,

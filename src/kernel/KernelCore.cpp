@@ -7,6 +7,7 @@
 #include "kernel/KernelTemplates.h"
 #include "kernel/PostingIndex.h"
 #include "kernel/ScopedValue.h"
+#include "platform/ForeignCall.h"
 #include "platform/Platform.h"
 #include "workerdb/CDDWorkerDB.h"
 
@@ -64,7 +65,8 @@ void CHARTKernel::InitializeDB(const std::string& dataModelClass) {
   const auto components = model_.Model();
   for (const auto& model : {deviceModel_, internalModel_}) {
     for (const InitStep step : kInitSteps) {
-      ((*model).*step)(*components, commandList_, relationList_);
+      platform::CallForeign("IDDDataModel",
+                            [&] { ((*model).*step)(*components, commandList_, relationList_); });
     }
   }
   RunUnitRelations();

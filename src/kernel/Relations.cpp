@@ -5,6 +5,7 @@
 #include "kernel/KernelTemplates.h"
 #include "kernel/PostingIndex.h"
 #include "kernel/ScopedValue.h"
+#include "platform/ForeignCall.h"
 #include "workerdb/CDDWorkerDB.h"
 
 namespace ZAFHartLib {
@@ -186,7 +187,9 @@ bool CHARTKernel::ComputeSpecifier(std::shared_ptr<Relation>& relation, ComputeO
   DependencyFrame frame(innermostFrame_, TrackingDatabase(), definition);
   ScopedValue noting(context_.frame, frame.IsNoting() ? &frame : nullptr);
   const auto computedBy = [&](IDDDataModel& model) {
-    auto computed = (model.*compute)(*this, *model_.Model(), definition.Name(), relation);
+    auto computed = platform::CallForeign("IDDDataModel", [&] {
+      return (model.*compute)(*this, *model_.Model(), definition.Name(), relation);
+    });
     if (computed) relation = std::move(computed);
   };
   {
