@@ -1,62 +1,16 @@
 #include <gtest/gtest.h>
 
-#include <filesystem>
 #include <set>
 
-#include "components/CDDComponents.h"
-#include "components/LibraryClasses.h"
 #include "linksim/DeviceFile.h"
-#include "linksim/DeviceLink.h"
-#include "platform/Platform.h"
 #include "sampletemperature/Description.h"
-#include "support/TempFolder.h"
+#include "support/SampleDevice.h"
 
-// The sample DTM, loaded as a plug-in, on an emulated transmitter with the demo device's memory.
+// What the sample DTM reads from the demo device and writes to it.
 namespace {
 
-using namespace ZAFHartTypes;  // NOLINT(google-build-using-namespace)
-using dtmkit::MenuNamed;
-using dtmkit::VariableNamed;
+using namespace test_support;  // NOLINT(google-build-using-namespace)
 using sampletemperature::Description;
-
-const std::filesystem::path kDtmFolder = ZAF_DTM_FOLDER;
-
-class SampleDevice : public testing::Test {
- protected:
-  SampleDevice() {
-    const auto memory = folder_ / "device.txt";
-    std::filesystem::copy_file(kDtmFolder / "demo-device.txt", memory);
-    device_->UseFile(memory);
-    ZAFHartLib::RegisterLibraryClasses(platform_.Classes());
-    platform_.Classes().SetPluginPath({kDtmFolder});
-    components_->SetDataModelClass("SampleTemperature.DataModel");
-    components_->SetCommWrapperClass("ZAFHartLib.CDDTestCommWrapper");
-    components_->Initialize();
-    std::dynamic_pointer_cast<ILinkUser>(components_->HARTComm())
-        ->SetLink(std::make_shared<HartLinkSim::DeviceLink>(device_));
-  }
-  ~SampleDevice() override { components_->PrepareTermination(); }
-
-  void Upload() {
-    Definition menu;
-    components_->Upload(menu);
-    EXPECT_EQ(menu.Name(), "upload_variables");
-  }
-  std::shared_ptr<Variable> Get(std::string_view name) {
-    return components_->DDKernel()->GetVariable(VariableNamed(name));
-  }
-  void Edit(std::string_view name, const Variant& value) {
-    components_->DDWorkerDB()->WriteValue(VariableNamed(name), value);
-  }
-  Variant InDevice(std::string_view name) { return device_->Value(name).value_or(Variant()); }
-
-  platform::Platform platform_{std::make_unique<platform::ManualClock>()};
-  platform::PlatformScope scope_{platform_};
-  support::TempFolder folder_;
-  std::shared_ptr<HartLinkSim::EmulatedDevice> device_ =
-      std::make_shared<HartLinkSim::EmulatedDevice>();
-  std::shared_ptr<ZAFHartLib::CDDComponents> components_ = ZAFHartLib::CDDComponents::Create();
-};
 
 bool IsConfiguration(const Variable& variable) {
   return !variable.Attributes().IsDynamic() && !variable.Attributes().IsLibraryHeld() &&

@@ -107,6 +107,9 @@ TEST_F(DeviceTest, CommonCommands) {
   EXPECT_EQ(status(), hart::kColdStart);
   EXPECT_EQ(Reply(3, {}, "", none, "0000"), "0020");
   EXPECT_EQ(Reply(3, {}, "", none, "0000"), "0000");
+  EXPECT_EQ(Reply(48, {}, "", none, "000001"), "001001") << "more status available";
+  EXPECT_EQ(Reply(3, {}, "", none, "0000"), "0010");
+  EXPECT_EQ(Reply(48, {}, "", none, "000000"), "000000");
   EXPECT_EQ(device->ConfigurationChangeCounter(), 1);
 }
 

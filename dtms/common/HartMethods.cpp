@@ -16,6 +16,10 @@ std::uint8_t Byte(const ByteBuffer& status, StatusByte which) {
   return status.Item(static_cast<std::size_t>(which));
 }
 
+std::string Text(double number) {
+  return Variant(static_cast<float>(number)).ToText();
+}
+
 // What became of a command, told to the user.
 bool IsCarriedOut(IDDBuiltinLib& dd, std::int16_t command, std::int32_t result,
                   const ByteBuffer& status) {
@@ -75,7 +79,10 @@ bool AskNumber(IDDBuiltinLib& dd, const char* question, const VariableIds& ids, 
     if (dd.IsAbort()) return false;
     number = answer.ToDouble();
     if (number >= minimum && number <= maximum) return true;
-    dd.Acknowledge("The value is outside its limits.|de|Der Wert liegt außerhalb seiner Grenzen.");
+    dd.Acknowledge(number < minimum ? "The least value is " + Text(minimum) +
+                                          ".|de|Der kleinste Wert ist " + Text(minimum) + "."
+                                    : "The greatest value is " + Text(maximum) +
+                                          ".|de|Der größte Wert ist " + Text(maximum) + ".");
     if (dd.IsAbort()) return false;
   }
 }

@@ -29,8 +29,7 @@ bool Confirm(IDDBuiltinLib& dd, const char* question, const ZAFHartTypes::Variab
 bool ShowLive(IDDBuiltinLib& dd, const char* prompt, const ZAFHartTypes::VariableIds& ids,
               int seconds);
 
-// Asks for a number until it is within the limits; the question names them. False when the user
-// breaks off.
+// Asks for a number until it is within the limits. False when the user breaks off.
 bool AskNumber(IDDBuiltinLib& dd, const char* question, const ZAFHartTypes::VariableIds& ids,
                double minimum, double maximum, double& number);
 

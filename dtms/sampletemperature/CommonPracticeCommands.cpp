@@ -105,10 +105,10 @@ void DescribeLoopCurrentCommands(DeviceDescription& dd) {
 
 void DescribeSensorTrim(DeviceDescription& dd) {
   using enum ResponseCodeType;
-  // HART command 82
+  // HART command 82; the device keeps what follows from it, not the data
   dd.Command("write_device_variable_trim_point", 82, Operation::Command)
-      .Request({Index(kCode), "trim_point", Info("trim_unit"), "trim_reference"})
-      .Reply({Index(kCode), "trim_point", Info("trim_unit"), "trim_reference"})
+      .Request({Index(kCode), Info("trim_point"), Info("trim_unit"), Info("trim_reference")})
+      .Reply({Index(kCode), Info("trim_point"), Info("trim_unit"), Info("trim_reference")})
       .Codes(hart::WriteCodes(
           {hart::InvalidSelection(),
            hart::ParameterTooLarge(),

@@ -8,16 +8,19 @@ namespace sampletemperature {
 namespace {
 
 constexpr std::int16_t kReadPrimaryVariable = 1;  // HART command numbers
+constexpr std::int16_t kReadWithStatus = 9;
+constexpr std::int16_t kReadTransducerInformation = 14;
 constexpr std::int16_t kSetZero = 43;
 constexpr std::int16_t kWriteTrimPoint = 82;
+constexpr std::int16_t kReadTrimRecord = 136;
 constexpr std::int16_t kWriteTrimRecord = 137;
 constexpr int kSecondsToWatch = 5;
 
 // What a trim would be made by has to be good, or the user has to know better.
 bool MeasuresWell(IDDBuiltinLib& dd) {
   constexpr std::int32_t kGood = 3;  // HART process data status
+  if (!hart::CarryOut(dd, kReadWithStatus)) return false;
   const std::int32_t quality = dd.LongValue("primary_variable_data_quality");
-  if (dd.IsAbort()) return false;
   return quality == kGood || hart::Confirm(dd,
                                            "The device calls its value \"%{0}\". Go on?|de|"
                                            "Das Gerät nennt seinen Wert \"%{0}\". Fortfahren?",
@@ -64,8 +67,8 @@ constexpr TrimPoint kUpperPoint{2,
                                 "Bringen Sie Sensor und Referenz auf den oberen Abgleichpunkt."};
 
 struct Limits {
-  double minimum = -std::numeric_limits<double>::max();
-  double maximum = std::numeric_limits<double>::max();
+  double minimum = -std::numeric_limits<double>::infinity();
+  double maximum = std::numeric_limits<double>::infinity();
 };
 
 // Those of the sensor, when the device gives them in the unit of the trim.
@@ -76,7 +79,7 @@ Limits SensorLimits(IDDBuiltinLib& dd) {
 
 // Trims one point to what the user reads off the reference.
 bool TrimTo(IDDBuiltinLib& dd, const TrimPoint& point, const Limits& limits, double& reference) {
-  const VariableIds ids{dd.VARID("primary_variable"), dd.VARID("trim_unit")};
+  const VariableIds ids{dd.VARID("primary_variable"), dd.VARID("primary_variable_unit")};
   dd.Acknowledge(point.instruction);
   if (dd.IsAbort()) return false;
   const char* const steady =
@@ -118,10 +121,12 @@ void Record(IDDBuiltinLib& dd, double lower, double upper) {
 void TrimSensor(IDDBuiltinLib& dd) {
   hart::JudgeReplies(dd);
   if (!MeasuresWell(dd)) return;
+  for (const std::int16_t command : {kReadTrimRecord, kReadTransducerInformation}) {
+    if (!hart::CarryOut(dd, command)) return;
+  }
   dd.AssignVar("trim_unit", "primary_variable_unit");
   Limits limits = SensorLimits(dd);
   const double span = dd.FloatValue("minimum_span");
-  if (dd.IsAbort()) return;
   double lower = 0;
   double upper = 0;
   if (!TrimTo(dd, kLowerPoint, limits, lower)) return;
