@@ -47,6 +47,10 @@ class Line : public HartLinkSim::DeviceLink {
     const int nth = ++counts_[number];
     if (++exchanges >= silentFrom && exchanges < silentFrom + silence)
       LinkFaults().Add("no-reply:1");
+    if (exchanges == brokenOff) {
+      LinkFaults().Add("latency:100");
+      break_ = platform::Current().Loop().Post([this] { onBreak(); });
+    }
     for (const Refusal& refusal : refusals) {
       if (refusal.command == number && refusal.nth == nth) LinkFaults().Add(refusal.fault);
     }
@@ -59,8 +63,11 @@ class Line : public HartLinkSim::DeviceLink {
   int exchanges = 0;
   int silentFrom = kNever;
   int silence = 1;
+  int brokenOff = kNever;  // exchange that the user breaks off
+  std::function<void()> onBreak;
 
  private:
+  platform::Subscription break_;
   std::map<int, int> counts_;
 };
 
@@ -251,6 +258,25 @@ TEST(Methods, ShowWhatTheDeviceRefusesAndLeaveNothingBehind) {
     EXPECT_TRUE(std::any_of(messages.begin(), messages.end(), [&](const std::string& message) {
       return message.find(refused.shown) != std::string::npos;
     })) << testing::PrintToString(messages);
+    run.ExpectCleanEnd();
+  }
+}
+
+TEST(Methods, ReleaseTheLoopCurrentWhenTheUserBreaksOff) {
+  for (const int exchange : {1, 2}) {
+    MethodRun run;
+    run.user->answers = {1, 2, 12.0, 3};
+    run.line->brokenOff = exchange;
+    run.line->onBreak = [&] {
+      std::dynamic_pointer_cast<ILinkUser>(run.components_->HARTComm())->CancelExchange();
+    };
+    try {
+      run.Run("loop_test");
+      FAIL() << "the break is raised on";
+    } catch (const Failure& failure) {
+      EXPECT_EQ(failure.Number(), ErrorNumber::Cancelled);
+    }
+    EXPECT_EQ(CountOf(run.line->sent, kRelease), 1U) << run.line->sent;
     run.ExpectCleanEnd();
   }
 }

@@ -203,6 +203,8 @@ TEST(SampleTemperature, SpeaksEnglishAndGerman) {
       ExpectGermanToo(item.Description(), *variable);
   }
   for (const auto& menu : All<Menu>()) ExpectGermanToo(menu->Label(), *menu);
+  for (const auto& method : All<Method>()) ExpectGermanToo(method->Label(), *method);
+  for (const auto& form : All<EditDisplay>()) ExpectGermanToo(form->Label(), *form);
 }
 
 }  // namespace
