@@ -1,7 +1,7 @@
 #pragma once
 
-#include <string_view>
-#include <unordered_map>
+#include <algorithm>
+#include <bit>
 #include <utility>
 #include <vector>
 
@@ -17,16 +17,19 @@ class KeyedList {
  public:
   // Raises DuplicateKey when the key is taken; the list then stays as it was.
   void Add(TextKey key, Item item) {
-    if (!index_.try_emplace(key, items_.size()).second) {
-      throw Failure(ErrorNumber::DuplicateKey, "KeyedList.Add");
-    }
+    if (Contains(key)) throw Failure(ErrorNumber::DuplicateKey, "KeyedList.Add");
     items_.emplace_back(key, std::move(item));
+    if (2 * items_.size() > slots_.size()) {
+      BuildIndex();
+    } else {
+      slots_[SlotOf(key)] = items_.size();
+    }
   }
-  bool Contains(TextKey key) const { return index_.contains(key); }
+  bool Contains(TextKey key) const { return PositionOf(key) != kNone; }
   // nullptr when absent.
   Item* Find(TextKey key) {
-    const auto found = index_.find(key);
-    return found == index_.end() ? nullptr : &items_[found->second].second;
+    const std::size_t position = PositionOf(key);
+    return position == kNone ? nullptr : &items_[position - 1].second;
   }
   const Item* Find(TextKey key) const { return const_cast<KeyedList*>(this)->Find(key); }
   // Raises InvalidProcedureCall for an unknown key.
@@ -41,19 +44,17 @@ class KeyedList {
     }
     return items_[position - 1].second;
   }
-  // Takes the item out; false when absent. Linear in the number of items behind it.
+  // Takes the item out; false when absent. Linear in the number of items.
   bool Remove(TextKey key) {
-    const auto found = index_.find(key);
-    if (found == index_.end()) return false;
-    const std::size_t position = found->second;
-    items_.erase(items_.begin() + static_cast<std::ptrdiff_t>(position));
-    index_.erase(found);
-    for (auto& [other, at] : index_) at -= at > position ? 1 : 0;
+    const std::size_t position = PositionOf(key);
+    if (position == kNone) return false;
+    items_.erase(items_.begin() + static_cast<std::ptrdiff_t>(position - 1));
+    BuildIndex();
     return true;
   }
   void Clear() {
     items_.clear();
-    index_.clear();
+    slots_.clear();
   }
   std::size_t Count() const { return items_.size(); }
   bool IsEmpty() const { return items_.empty(); }
@@ -63,8 +64,27 @@ class KeyedList {
   auto end() const { return items_.end(); }
 
  private:
+  static constexpr std::size_t kNone = 0;
+
+  std::size_t PositionOf(TextKey key) const { return slots_.empty() ? kNone : slots_[SlotOf(key)]; }
+  // The slot that holds the key's position, or the free one that would. At least half of all slots
+  // are free.
+  std::size_t SlotOf(TextKey key) const {
+    const std::size_t mask = slots_.size() - 1;
+    std::size_t slot = key.Hash() & mask;
+    while (slots_[slot] != kNone && items_[slots_[slot] - 1].first != key) slot = (slot + 1) & mask;
+    return slot;
+  }
+  void BuildIndex() {
+    constexpr std::size_t kFewest = 8;
+    slots_.assign(std::bit_ceil(std::max(kFewest, 4 * items_.size())), kNone);
+    for (std::size_t position = 1; position <= items_.size(); ++position) {
+      slots_[SlotOf(items_[position - 1].first)] = position;
+    }
+  }
+
   std::vector<std::pair<TextKey, Item>> items_;
-  std::unordered_map<TextKey, std::size_t, TextKeyHash> index_;
+  std::vector<std::size_t> slots_;  // a power of two; look-ups touch one slot and one item
 };
 
 }  // namespace ZAFHartTypes

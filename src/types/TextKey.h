@@ -26,8 +26,15 @@ class TextKey {
   const std::string& Folded() const;
 
   // Same item: the names differ in letter case at most.
-  friend bool operator==(TextKey a, TextKey b) { return a.FoldedEntry() == b.FoldedEntry(); }
-  std::size_t Hash() const { return std::hash<const void*>{}(FoldedEntry()); }
+  friend bool operator==(TextKey a, TextKey b) {
+    return a.entry_ == b.entry_ || a.FoldedEntry() == b.FoldedEntry();
+  }
+  // Spread over all bits.
+  std::size_t Hash() const {
+    constexpr std::size_t kSpread = 0x9E3779B97F4A7C15U;  // 2^64 / golden ratio
+    const std::size_t address = std::hash<const void*>{}(FoldedEntry()) * kSpread;
+    return address ^ (address >> 32U);
+  }
 
  private:
   struct Entry;
