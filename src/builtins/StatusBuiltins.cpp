@@ -19,6 +19,16 @@ void AddLine(std::string& text, const std::string& line, const char* newLine) {
   text += line;
 }
 
+// Codes of the whole command first, then those of a transaction only.
+const ResponseCode* FindCode(const Command& command, std::int16_t responseCode) {
+  const ResponseCode* code = command.ResponseCodes().Find(responseCode);
+  for (auto each = command.Transactions().begin(); !code && each != command.Transactions().end();
+       ++each) {
+    code = (*each)->ResponseCodes().Find(responseCode);
+  }
+  return code;
+}
+
 }  // namespace
 
 void CDDBuiltinLib::ShowStatus(MessageIcon icon, enumDDResourceIDs title, std::string text) {
@@ -64,7 +74,7 @@ std::optional<std::string> CDDBuiltinLib::ResponseText(std::int16_t number,
     return std::nullopt;
   }
   const auto command = model_.Kernel()->GetCommand(definition);
-  const ResponseCode* code = command->ResponseCodes().Find(responseCode);
+  const ResponseCode* code = FindCode(*command, responseCode);
   if (!code) {
     FailMethod(idErrCommandResp, {{"s1", responseCode}, {"s2", number}});
     return std::nullopt;
