@@ -107,6 +107,11 @@ void RefreshRound(benchmark::State& state) {
                                 static_cast<double>(state.iterations()) /
                                 static_cast<double>(state.range(0));
 }
-BENCHMARK(RefreshRound)->Arg(10)->Arg(100)->Arg(1000)->Iterations(20)->Unit(benchmark::kMillisecond);
+BENCHMARK(RefreshRound)
+    ->Arg(10)
+    ->Arg(100)
+    ->Arg(1000)
+    ->Iterations(20)
+    ->Unit(benchmark::kMillisecond);
 
 }  // namespace
