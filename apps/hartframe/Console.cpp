@@ -1,5 +1,6 @@
 #include "hartframe/Console.h"
 
+#include <poll.h>
 #include <sys/ioctl.h>
 #include <unistd.h>
 
@@ -49,6 +50,19 @@ std::string Bar(const std::string& title, int percent) {
   const std::size_t cells = std::min<std::size_t>(40, room > used ? room - used : 0);
   const std::size_t full = cells * static_cast<std::size_t>(percent) / 100;
   return title + " [" + std::string(full, '#') + std::string(cells - full, '-') + "]" + number;
+}
+
+// Nothing at the end of the input and when broken off. Looks for a break in short steps: a signal
+// that comes just before the wait would not end it.
+std::optional<char> ReadCharacter(const Console::BreakCheck& isBroken) {
+  constexpr int kStep = 50;  // milliseconds
+  pollfd input{STDIN_FILENO, POLLIN, 0};
+  while (poll(&input, 1, kStep) <= 0) {
+    if (isBroken()) return std::nullopt;
+  }
+  char c = 0;
+  if (read(STDIN_FILENO, &c, 1) <= 0) return std::nullopt;
+  return c;
 }
 
 }  // namespace
@@ -110,21 +124,19 @@ void Console::Status(std::string_view line) {
   barShown_ = true;
 }
 
-std::optional<std::string> Console::Ask(std::string_view question) {
-  if (!CanAsk()) return std::nullopt;
+std::optional<std::string> Console::Ask(std::string_view question, const BreakCheck& isBroken) {
+  if (!canAsk_) return std::nullopt;
   EraseBar();
   Print(stderr, question);
   std::string line;
   while (true) {
-    char c = 0;
-    // read() instead of a stream: a signal ends it.
-    const ssize_t count = read(STDIN_FILENO, &c, 1);
-    if (count <= 0) {
+    const auto c = ReadCharacter(isBroken);
+    if (!c) {
       Print(stderr, "\n");
       return std::nullopt;
     }
-    if (c == '\n') return line;
-    line += c;
+    if (*c == '\n') return line;
+    line += *c;
   }
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -40,9 +41,11 @@ class Console {
   void Progress(const std::string& title, double percent);
   // Shows a line that the next one draws over, on a terminal; "" ends it.
   void Status(std::string_view line);
+  // Breaks a question off when it says so; asked a few times a second.
+  using BreakCheck = std::function<bool()>;
   // The answer without its line end; nothing when there is nobody to ask, at the end of the input
-  // and after Ctrl-C.
-  std::optional<std::string> Ask(std::string_view question);
+  // and when it was broken off.
+  std::optional<std::string> Ask(std::string_view question, const BreakCheck& isBroken);
 
  private:
   void EraseBar();

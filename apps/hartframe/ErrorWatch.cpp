@@ -31,7 +31,6 @@ Trouble TroubleOf(const CommandStatus& status, const CommandRef& command,
 std::int32_t ErrorWatch::ObjectError(const std::shared_ptr<ZAFHartTypes::DDObject>& object,
                                      ItemIndex index) {
   const std::string& name = object->ObjectDefinition().Key().Folded();
-  if (index == ItemIndex::NoCommunication) hadNoAnswer_ = true;
   if (index == ItemIndex::CannotWrite) writes_[name] = Trouble::Communication;
   if (index == ItemIndex::NotWritable) writes_[name] = Trouble::Other;
   return 0;

@@ -22,16 +22,13 @@ class ErrorWatch : public ZAFHartTypes::IDDErrorHandler {
 
   // How the write of the variable failed; Trouble::None when it did not.
   Trouble WriteTrouble(const ZAFHartTypes::Definition& definition) const;
-  // Since Forget: the last error of the DD's own code ("" without one), and whether the device did
-  // not answer to a request.
+  // The last error of the DD's own code since Forget; "" without one.
   const std::string& EvaluationErrorText() const { return evaluationError_; }
-  bool HadNoAnswer() const { return hadNoAnswer_; }
   void Forget() { *this = {}; }
 
  private:
   std::map<std::string, Trouble> writes_;  // by folded name
   std::string evaluationError_;
-  bool hadNoAnswer_ = false;
 };
 
 }  // namespace hartframe

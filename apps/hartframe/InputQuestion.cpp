@@ -64,14 +64,14 @@ bool TakeAnswer(Variable& variable, std::string_view answer, std::string_view op
 }
 
 bool AskForValue(Variable& variable, Console& console, const Speech& speech,
-                 std::string_view options) {
+                 const Console::BreakCheck& isBroken, std::string_view options) {
   const bool isSelection = !options.empty();
   if (console.CanAsk())
     console.Error(isSelection ? ChoiceLines(variable, speech) : AllowedText(variable, speech));
   const std::string present = isSelection ? std::string() : PresentValue(variable, speech);
   std::string question = isSelection ? speech(texts::kEnterChoice) : speech(Text::EnterValue);
   if (!present.empty()) question += '[' + present + "] ";
-  while (const auto answer = console.Ask(question)) {
+  while (const auto answer = console.Ask(question, isBroken)) {
     if (answer->empty() && !present.empty()) return true;
     if (TakeAnswer(variable, *answer, options)) return true;
     console.Error(AllowedText(variable, speech));

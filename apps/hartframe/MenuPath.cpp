@@ -35,6 +35,19 @@ bool BeginsWith(std::string_view multilingual, std::string_view folded, const st
   return ZAFHartTypes::FoldCase(ZAFHartLib::LangText(multilingual, lang)).starts_with(folded);
 }
 
+// The entries that fulfil the condition, each item once.
+template <typename Condition>
+std::vector<MenuEntry> Distinct(const std::vector<MenuEntry>& entries, Condition condition) {
+  std::vector<MenuEntry> distinct;
+  for (const MenuEntry& entry : entries) {
+    const bool known = std::any_of(distinct.begin(), distinct.end(), [&entry](const auto& other) {
+      return other.definition.IsSameAs(entry.definition);
+    });
+    if (!known && condition(entry)) distinct.push_back(entry);
+  }
+  return distinct;
+}
+
 [[noreturn]] void Refuse(const std::string& sentence) {
   throw CommandFailure(ExitCode::Usage, sentence);
 }
@@ -123,30 +136,27 @@ std::string MultilingualLabel(ZAFHartTypes::DDObject& object) {
 }
 
 std::vector<MenuEntry> MatchingEntries(const Speech& say, const std::vector<MenuEntry>& entries,
-                                       std::string_view step) {
-  for (const MenuEntry& entry : entries) {
-    if (ZAFHartTypes::SameKey(entry.definition.Name(), step)) return {entry};
-  }
-  for (const MenuEntry& entry : entries) {
-    if (HasSegment(entry.label, step)) return {entry};
-  }
-  std::vector<MenuEntry> matching;
-  const std::string folded = ZAFHartTypes::FoldCase(step);
-  for (const MenuEntry& entry : entries) {
-    const bool known = std::any_of(
-        matching.begin(), matching.end(),
-        [&entry](const MenuEntry& other) { return other.definition.IsSameAs(entry.definition); });
-    if (!known && !step.empty() &&
-        (BeginsWith(entry.label, folded, say.Language()) || BeginsWith(entry.label, folded, "en")))
-      matching.push_back(entry);
-  }
-  return matching;
+                                       std::string_view text) {
+  const std::string folded = ZAFHartTypes::FoldCase(text);
+  const auto hasName = [&](const MenuEntry& entry) {
+    return ZAFHartTypes::SameKey(entry.definition.Name(), text);
+  };
+  const auto hasLabel = [&](const MenuEntry& entry) { return HasSegment(entry.label, text); };
+  const auto begins = [&](const MenuEntry& entry) {
+    return !text.empty() && (BeginsWith(entry.label, folded, say.Language()) ||
+                             BeginsWith(entry.label, folded, "en"));
+  };
+  std::vector<MenuEntry> matching = Distinct(entries, hasName);
+  if (matching.empty()) matching = Distinct(entries, hasLabel);
+  return matching.empty() ? Distinct(entries, begins) : matching;
 }
 
-std::string ListEntries(const Speech& say, const std::vector<MenuEntry>& entries) {
+std::string ListEntries(const Speech& say, const std::vector<MenuEntry>& entries, bool withNames) {
   std::string list;
-  for (const MenuEntry& entry : entries)
+  for (const MenuEntry& entry : entries) {
     list += (list.empty() ? "\"" : ", \"") + say.Pick(entry.label) + '"';
+    if (withNames) list += " (" + entry.definition.Name() + ')';
+  }
   return list;
 }
 

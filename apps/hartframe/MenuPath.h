@@ -31,12 +31,13 @@ std::vector<MenuEntry> RootMenus(Session& session);
 // The items of a menu, which is computed but not read from the device.
 std::vector<MenuEntry> EntriesOf(Session& session, const ZAFHartTypes::Definition& menu);
 
-// The entry whose DD name or label the text is, without regard to letter case; otherwise all whose
-// label in the user's language or English begins with it.
+// The entries whose DD name the text is, without regard to letter case; otherwise those whose label
+// it is, otherwise those whose label in the user's language or English begins with it.
 std::vector<MenuEntry> MatchingEntries(const Speech& say, const std::vector<MenuEntry>& entries,
                                        std::string_view text);
-// Their labels in the user's language, in quotes.
-std::string ListEntries(const Speech& say, const std::vector<MenuEntry>& entries);
+// Their labels in the user's language, in quotes; with DD names behind them when `withNames`.
+std::string ListEntries(const Speech& say, const std::vector<MenuEntry>& entries,
+                        bool withNames = false);
 
 // Follows a path from the root menus down. A step is a DD name or a label in the user's language or
 // English, without regard to letter case, or the beginning of a label that no other item has; a

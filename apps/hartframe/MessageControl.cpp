@@ -28,7 +28,8 @@ void Pause(std::int32_t seconds, const SignalWatch& signals) {
 
 std::int32_t MessageControl::ShowUserMessage(UserMessage& message) {
   report_.Message(message);
-  if (message.input && !AskForValue(*message.input, console_, speech_))
+  if (message.input &&
+      !AskForValue(*message.input, console_, speech_, [this] { return signals_.Interrupted(); }))
     return ZAFHartTypes::kMessageCancelled;
   if (IsPause(message)) Pause(message.delay, signals_);
   return signals_.Interrupted() ? ZAFHartTypes::kMessageCancelled : 0;

@@ -77,9 +77,13 @@ std::int32_t MethodDialogue::AnswerFromScript(UserMessage& message) {
 
 std::int32_t MethodDialogue::AskUser(UserMessage& message) {
   Console& console = session_.Terminal();
-  const bool answered = message.input
-                            ? AskForValue(*message.input, console, session_.Say(), watch_.Options())
-                            : console.Ask(session_.Say()(texts::kPressEnter)).has_value();
+  const auto isBroken = [this, isClosing = watch_.IsClosing()] {
+    return session_.Interrupted() && !isClosing;
+  };
+  const bool answered =
+      message.input
+          ? AskForValue(*message.input, console, session_.Say(), isBroken, watch_.Options())
+          : console.Ask(session_.Say()(texts::kPressEnter), isBroken).has_value();
   return answered ? Accept(message) : Cancel();
 }
 

@@ -61,7 +61,7 @@ Target FindTarget(Session& session) {
   const char* const text = matching.empty() ? texts::kUnknownMethod : texts::kAmbiguousItem;
   throw CommandFailure(
       ExitCode::Usage,
-      say(text, {OneLine(name), ListEntries(say, matching.empty() ? methods : matching)}));
+      say(text, {OneLine(name), ListEntries(say, matching.empty() ? methods : matching, true)}));
 }
 
 // Whether the method is valid follows from variables, which have to be the device's.
@@ -105,7 +105,7 @@ class MethodRun {
     const DialogueScope scope(session_, dialogue_);
     try {
       session_.Run([this] { session_.Kernel().ExecuteMethod(target_.method, Context()); },
-                   [this] { watch_.AbortAll(); });
+                   [this] { OnInterrupt(); });
     } catch (const platform::Failure& failure) {
       failure_ = failure.Description();
     }
@@ -124,6 +124,13 @@ class MethodRun {
   }
 
  private:
+  // What cleans up after an abort is not broken off.
+  void OnInterrupt() {
+    if (watch_.IsClosing()) return;
+    watch_.AbortAll();
+    session_.Components().CancelOperation();
+  }
+
   std::shared_ptr<ZAFHartTypes::DDObject> Context() {
     if (target_.menu) return session_.Kernel().GetMenu(target_.menu);
     return session_.Kernel().GetMethod(target_.method);
@@ -161,11 +168,10 @@ class MethodRun {
     if (dialogue_->IsCancelled()) return TellAborted("cancelled", texts::kReasonUser);
     const std::string& error = session_.Errors().EvaluationErrorText();
     if (!error.empty()) return TellFailed(error.substr(error.rfind('\n') + 1));
+    if (watch_.LastResult() == static_cast<std::int32_t>(CommResult::NoDevice))
+      return TellAborted("noDevice", texts::kReasonNoDevice);
     if (watch_.AbortedItself()) return TellAborted("method", texts::kReasonMethod);
-    const bool isLost = watch_.LastResult() == static_cast<std::int32_t>(CommResult::NoDevice) ||
-                        session_.Errors().HadNoAnswer();
-    return isLost ? TellAborted("noDevice", texts::kReasonNoDevice)
-                  : TellAborted("status", texts::kReasonStatus);
+    return TellAborted("status", texts::kReasonStatus);
   }
 
   ExitCode TellAborted(std::string_view reason, const char* text,

@@ -27,7 +27,8 @@ bool MayDiscard(Session& session, const std::vector<Change>& pending) {
   if (!session.Terminal().CanAsk()) {
     throw CommandFailure(ExitCode::NotAllowed, say(Text::PendingRefused, {NamesOf(pending)}));
   }
-  const auto answer = session.Terminal().Ask(say(Text::PendingQuestion, {NamesOf(pending)}));
+  const auto answer = session.Terminal().Ask(say(Text::PendingQuestion, {NamesOf(pending)}),
+                                             [&session] { return session.Interrupted(); });
   return answer && IsYes(*answer, say);
 }
 

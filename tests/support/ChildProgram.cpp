@@ -79,9 +79,13 @@ ChildProgram::~ChildProgram() {
 }
 
 bool ChildProgram::ReadSome() {
+  constexpr int kPatience = 20000;  // milliseconds
   pollfd ends[] = {{outEnd_, POLLIN, 0}, {errorEnd_, POLLIN, 0}};
   if (outEnd_ < 0 && errorEnd_ < 0) return false;
-  poll(ends, 2, -1);
+  if (poll(ends, 2, kPatience) == 0) {
+    kill(process_, SIGKILL);
+    return false;
+  }
   if (ends[0].revents != 0) ReadFrom(outEnd_, out_);
   if (ends[1].revents != 0) ReadFrom(errorEnd_, error_);
   return true;

@@ -34,7 +34,7 @@ class ChildProgram {
  private:
   void StartOnPipes(std::vector<char*>& arguments);
   void StartOnTerminal(std::vector<char*>& arguments);
-  // False when both are at their end.
+  // False when both are at their end; a program that says nothing for long is ended.
   bool ReadSome();
 
   pid_t process_ = 0;
