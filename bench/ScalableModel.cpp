@@ -99,12 +99,10 @@ const DeviceDescription& Description(std::size_t variables) {
   auto& dd = made[variables];
   if (dd) return *dd;
   dd = std::make_unique<DeviceDescription>();
-  DescribeReplyStart(*dd);
-  DescribeAddress(*dd);
+  DescribeDevice(*dd);
   DescribeGroups(*dd, variables);
   DescribeArray(*dd);
   DescribeRelations(*dd);
-  DescribeTenItems(*dd);
   return *dd;
 }
 
@@ -132,12 +130,21 @@ Definition VariableDefinition(std::size_t i) {
   return Definition::Define(VariableName(i), ObjectKind::Variable);
 }
 
+void DescribeDevice(DeviceDescription& dd) {
+  DescribeReplyStart(dd);
+  DescribeAddress(dd);
+  DescribeTenItems(dd);
+}
+
 std::shared_ptr<ZAFHartLib::CDDComponents> MakeInstance(std::size_t variables) {
+  return MakeInstance(Description(variables));
+}
+
+std::shared_ptr<ZAFHartLib::CDDComponents> MakeInstance(const DeviceDescription& description) {
   platform::ComponentClasses& classes = platform::Current().Classes();
   ZAFHartLib::RegisterLibraryClasses(classes);
-  classes.Register("Scalable.DataModel", [variables] {
-    return std::make_shared<dtmkit::DataModelBase>(Description(variables));
-  });
+  classes.Register("Scalable.DataModel",
+                   [&description] { return std::make_shared<dtmkit::DataModelBase>(description); });
   classes.Register("Scalable.KernelInformation", [] { return std::make_shared<Information>(); });
   auto components = Start("Scalable");
   std::dynamic_pointer_cast<ZAFHartLib::CDDWorkerDB>(components->DDWorkerDB())

@@ -4,6 +4,7 @@
 #include <memory>
 
 #include "components/CDDComponents.h"
+#include "dtmkit/dtmkit.h"
 
 // A data model that grows: n variables in groups of eight, one command that reads each group and
 // one that writes it (n / 4 commands in all), an item array of 16 elements read and written by
@@ -18,6 +19,11 @@ ZAFHartTypes::Definition VariableDefinition(std::size_t i);
 
 // A DTM instance of that size over the echo link, dependencies tracked.
 std::shared_ptr<ZAFHartLib::CDDComponents> MakeInstance(std::size_t variables);
+// The same of any description, which stays as it is; see DescribeDevice.
+std::shared_ptr<ZAFHartLib::CDDComponents> MakeInstance(
+    const ZAFHartTypes::dtmkit::DeviceDescription& description);
+// What every description needs to be addressed, and the command "read_ten", 127, of ten items.
+void DescribeDevice(ZAFHartTypes::dtmkit::DeviceDescription& dd);
 // An instance of the DTM that ships with the library.
 std::shared_ptr<ZAFHartLib::CDDComponents> MakeSampleInstance();
 
