@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include "ddobjects/Method.h"
 #include "gui/CDDDTMGUI.h"
 #include "hartframe/Changes.h"
@@ -67,7 +69,7 @@ Target FindTarget(Session& session) {
 // Whether the method is valid follows from variables, which have to be the device's.
 void RequireValid(Session& session, const Target& target) {
   ThoroughReader reader(session);
-  session.Run([&] { reader.ReadConditions(target.method); });
+  if (!session.Run([&] { reader.ReadConditions(target.method); })) return;  // nothing will run
   if (session.Kernel().GetMethodValidity(target.method)) return;
   TellTroubles(session, reader.Rows());
   throw CommandFailure(Worse(ExitCode::NotAllowed, CodeOfTroubles(reader.Rows())),
@@ -190,10 +192,15 @@ class MethodRun {
 };
 
 // What earlier runs left to be written stays so, except for what the method has changed.
-void KeepChanges(Session& session) {
-  std::vector<Change> anew;
-  for (const Definition& definition : PendingVariables(session)) anew.push_back({definition, {}});
-  if (!anew.empty()) KeepPending(session, LoadPending(session, anew));
+void KeepChanges(Session& session, std::vector<Change> earlier) {
+  const std::vector<Definition> changed = PendingVariables(session);
+  if (changed.empty()) return;
+  std::erase_if(earlier, [&changed](const Change& change) {
+    return std::any_of(changed.begin(), changed.end(), [&change](const Definition& definition) {
+      return definition.IsSameAs(change.definition);
+    });
+  });
+  KeepPending(session, earlier);
 }
 
 }  // namespace
@@ -204,10 +211,11 @@ ExitCode RunMethod(Session& session) {
   }
   const Target target = FindTarget(session);
   RequireValid(session, target);
+  const std::vector<Change> earlier = LoadPending(session);  // fails before the method runs
   MethodRun run(session, target);
   run.Run();
   const ExitCode code = run.Tell();
-  KeepChanges(session);
+  KeepChanges(session, earlier);
   return code;
 }
 
