@@ -8,8 +8,8 @@
 #include "hartframe/MenuPath.h"
 #include "hartframe/MenuTexts.h"
 #include "hartframe/MethodDialogue.h"
+#include "hartframe/MethodEnd.h"
 #include "hartframe/MethodTexts.h"
-#include "hartframe/MethodWatch.h"
 #include "hartframe/Reading.h"
 #include "interfaces/InternalNames.h"
 
@@ -17,7 +17,6 @@ namespace hartframe {
 
 namespace {
 
-using ZAFHartTypes::CommResult;
 using ZAFHartTypes::Definition;
 using ZAFHartTypes::ObjectKind;
 
@@ -167,13 +166,10 @@ class MethodRun {
   }
 
   ExitCode TellAbort() {
-    if (dialogue_->IsCancelled()) return TellAborted("cancelled", texts::kReasonUser);
-    const std::string& error = session_.Errors().EvaluationErrorText();
-    if (!error.empty()) return TellFailed(error.substr(error.rfind('\n') + 1));
-    if (watch_.LastResult() == static_cast<std::int32_t>(CommResult::NoDevice))
-      return TellAborted("noDevice", texts::kReasonNoDevice);
-    if (watch_.AbortedItself()) return TellAborted("method", texts::kReasonMethod);
-    return TellAborted("status", texts::kReasonStatus);
+    const AbortCause cause = CauseOfAbort(watch_, session_.Errors(), dialogue_->IsCancelled());
+    if (cause == AbortCause::Failure) return TellFailed(FailureText(session_.Errors()));
+    constexpr const char* kNames[] = {"cancelled", "failed", "method", "noDevice", "status"};
+    return TellAborted(kNames[static_cast<std::size_t>(cause)], ReasonText(cause));
   }
 
   ExitCode TellAborted(std::string_view reason, const char* text,

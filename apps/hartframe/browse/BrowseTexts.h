@@ -93,16 +93,6 @@ inline constexpr const char* kGiveUp =
     "du groupe|it|Annullare le modifiche del gruppo|es|Descartar los cambios del grupo|kt|Guruupu "
     "no henkou o torikesu";
 
-// --- methods ---
-inline constexpr const char* kMethodEnded =
-    "{0}: ended.|de|{0}: beendet.|fr|{0} : terminé.|it|{0}: terminato.|es|{0}: terminado."
-    "|kt|{0}: owarimashita.";
-inline constexpr const char* kMethodNotValid =
-    "{0} is not valid in this configuration.|de|{0} ist in dieser Konfiguration nicht gültig."
-    "|fr|{0} n'est pas valide dans cette configuration.|it|{0} non è valido in questa "
-    "configurazione.|es|{0} no es válido en esta configuración.|kt|{0} wa kono kousei de wa tsukae"
-    "masen.";
-
 // --- data set ---
 inline constexpr const char* kUpload =
     "Load from the device|de|Aus dem Gerät laden|fr|Lire de l'appareil|it|Leggere dal dispositivo"

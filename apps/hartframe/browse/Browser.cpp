@@ -52,9 +52,7 @@ ExitCode Browser::Run(const std::vector<Change>& pending) {
   actions_.TakeOver(pending);
   while (!isLeaving_ && !screen_.IsGone()) {
     platform::Current().Loop().WaitStep(kStep);
-    if (!session_.Interrupted() || screen_.IsGone()) continue;
-    session_.Signals().Resume();
-    Quit();
+    if (screen_.TakeBreak()) Quit();
   }
   return screen_.IsGone() ? ExitCode::Interrupted : ExitCode::Ok;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "hartframe/MethodEnd.h"
 #include "hartframe/browse/DataSetActions.h"
 #include "hartframe/browse/Editing.h"
 #include "hartframe/browse/FrameControl.h"
@@ -43,6 +44,7 @@ class Browser : public Base, public IFrame {
   void OnCharacter(char32_t key);
   void OpenSelected();
   void RunMethod(const Row& row);
+  void TellAborted(const Row& row, AbortCause cause);
   void ClosePage();
   void Quit();
   void ShowDetails();
@@ -51,7 +53,8 @@ class Browser : public Base, public IFrame {
   void ReadAgain();
   void GiveUpSelected();
   // Work in which errors stop the user.
-  bool WorkForUser(const std::function<void()>& operation);
+  bool WorkForUser(const std::function<void()>& operation,
+                   const std::function<void()>& onBreak = {});
 
   // Why nothing can be changed; "" when it can.
   std::string WhyReadOnly();

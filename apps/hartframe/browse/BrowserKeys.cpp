@@ -1,5 +1,7 @@
 // What the keys do on a page.
 
+#include "hartframe/MethodTexts.h"
+#include "hartframe/Reading.h"
 #include "hartframe/browse/BrowseTexts.h"
 #include "hartframe/browse/Browser.h"
 #include "hartframe/browse/GivenUp.h"
@@ -88,10 +90,11 @@ void Browser::OnCharacter(char32_t key) {
   Changed();
 }
 
-bool Browser::WorkForUser(const std::function<void()>& operation) {
+bool Browser::WorkForUser(const std::function<void()>& operation,
+                          const std::function<void()>& onBreak) {
   const bool before = messages_.ErrorsStop();
   messages_.SetErrorsStop(true);
-  const bool finished = screen_.Work(operation);
+  const bool finished = screen_.Work(operation, onBreak);
   messages_.SetErrorsStop(before);
   Changed();
   return finished;
@@ -123,12 +126,43 @@ void Browser::OpenSelected() {
 void Browser::RunMethod(const Row& row) {
   const std::string why = WhyReadOnly();
   if (!row.view.valid || !why.empty()) {
-    screen_.Tell(Tone::Bad,
-                 row.view.valid ? why : session_.Say()(texts::kMethodNotValid, {row.view.label}));
+    screen_.Tell(
+        Tone::Bad,
+        row.view.valid ? why : session_.Say()(hartframe::texts::kMethodNotValid, {row.view.label}));
     return;
   }
-  if (WorkForUser([&] { pages_.Top().RunMethod(row.item); }))
-    screen_.Tell(Tone::Plain, session_.Say()(texts::kMethodEnded, {row.view.label}));
+  MethodWatch watch(session_.Components());
+  bool isBroken = false;
+  session_.Errors().Forget();
+  messages_.Forget();
+  const bool finished = WorkForUser(
+      [&] {
+        ThoroughReader(session_).ReadConditions(row.item.definition);
+        pages_.Top().RunMethod(row.item);
+      },
+      [&] {
+        // What cleans up after it still has to reach the device, and the user.
+        isBroken = true;
+        watch.AbortAll();
+        session_.Components().CancelOperation();
+      });
+  if (watch.IsAborted()) {
+    TellAborted(row, CauseOfAbort(watch, session_.Errors(), isBroken || messages_.WasCancelled()));
+  } else if (finished && watch.HasStarted()) {
+    screen_.Tell(Tone::Good, session_.Say()(hartframe::texts::kMethodFinished, {row.view.label}));
+  }
+}
+
+void Browser::TellAborted(const Row& row, AbortCause cause) {
+  const Speech& say = session_.Say();
+  const std::string& label = row.view.label;
+  if (cause == AbortCause::Failure) {
+    screen_.Tell(Tone::Bad, say(hartframe::texts::kMethodFailed,
+                                {label, OneLine(FailureText(session_.Errors()))}));
+  } else {
+    screen_.Tell(cause == AbortCause::User ? Tone::Pending : Tone::Bad,
+                 say(hartframe::texts::kMethodAborted, {label, say(ReasonText(cause))}));
+  }
 }
 
 void Browser::ClosePage() {

@@ -58,6 +58,12 @@ std::int32_t Messages::Show(UserMessage& message) {
   }
   if (session_.Interrupted()) return ZAFHartTypes::kMessageCancelled;
   if (message.displayId > 0) Hide(message.displayId);
+  const std::int32_t answer = Answer(message);
+  if (answer == ZAFHartTypes::kMessageCancelled) wasCancelled_ = true;
+  return answer;
+}
+
+std::int32_t Messages::Answer(UserMessage& message) {
   if (message.input) return Ask(message);
   if (message.delay >= 0) return ShowForAWhile(message);
   TextDialog dialog(session_.Say(), HeadOf(message));

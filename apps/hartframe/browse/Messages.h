@@ -22,14 +22,19 @@ class Messages {
   // Errors are dialogs from now on, or not.
   void SetErrorsStop(bool stop) { errorsStop_ = stop; }
   bool ErrorsStop() const { return errorsStop_; }
+  // The user has cancelled a message since Forget.
+  bool WasCancelled() const { return wasCancelled_; }
+  void Forget() { wasCancelled_ = false; }
 
  private:
+  std::int32_t Answer(ZAFHartTypes::UserMessage& message);
   std::int32_t Ask(ZAFHartTypes::UserMessage& message);
   std::int32_t ShowForAWhile(ZAFHartTypes::UserMessage& message);
 
   Session& session_;
   Screen& screen_;
   bool errorsStop_ = false;
+  bool wasCancelled_ = false;
   std::int32_t lastId_ = 0;
   std::map<std::int32_t, std::shared_ptr<Dialog>> left_;  // on the screen, by display id
 };

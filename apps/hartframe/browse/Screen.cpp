@@ -34,8 +34,8 @@ class Entry {
 template <typename T>
 class Restored {
  public:
-  Restored(T& place, T value) : place_(place), before_(std::exchange(place, value)) {}
-  ~Restored() { place_ = before_; }
+  Restored(T& place, T value) : place_(place), before_(std::exchange(place, std::move(value))) {}
+  ~Restored() { place_ = std::move(before_); }
   Restored(const Restored&) = delete;
   Restored& operator=(const Restored&) = delete;
 
@@ -53,10 +53,30 @@ int SecondsUntil(platform::Milliseconds end) {
 
 Screen::Screen(Session& session, Terminal& terminal) : session_(session), terminal_(terminal) {
   session_.Terminal().SetScreen(this);
+  session_.Signals().SetHandler([this] { OnBreak(); });
 }
 
 Screen::~Screen() {
+  session_.Signals().SetHandler({});
   session_.Terminal().SetScreen(nullptr);
+}
+
+// Escape while something is under way, or Ctrl-C: ends what is on top.
+void Screen::OnBreak() {
+  isStale_ = true;
+  if (!modal_.empty()) {
+    modal_.back()->Cancel();
+    session_.Signals().Resume();
+  } else if (IsWorking() && onBreak_) {
+    session_.Signals().Resume();
+    onBreak_();
+  } else if (IsBusy()) {
+    session_.Components().CancelOperation();
+    if (!IsWorking()) session_.Signals().Resume();
+  } else {
+    wantsBreak_ = true;
+    session_.Signals().Resume();
+  }
 }
 
 // --- keys ---
@@ -110,14 +130,13 @@ bool Screen::Run(Dialog& dialog) {
   const Entry<Dialog> modal(modal_, dialog);
   isStale_ = true;
   while (!dialog.IsDone()) {
-    if (session_.Interrupted() || terminal_.IsGone()) {
+    if (terminal_.IsGone()) {
       dialog.Cancel();
     } else {
       platform::Current().Loop().WaitStep(kStep);
     }
   }
   isStale_ = true;
-  if (!IsWorking() && modal_.size() == 1) session_.Signals().Resume();
   return dialog.IsAccepted();
 }
 
@@ -127,7 +146,7 @@ bool Screen::Show(TimedDialog& dialog, platform::Milliseconds time, bool countdo
   const Entry<Dialog> modal(modal_, dialog);
   const auto end = platform::Current().GetClock().Now() + time;
   while (SecondsUntil(end) > 0 && !dialog.IsDone()) {
-    if (session_.Interrupted() || terminal_.IsGone()) dialog.Cancel();
+    if (terminal_.IsGone()) dialog.Cancel();
     if (countdown) dialog.SetSecondsLeft(SecondsUntil(end));
     isStale_ = true;
     platform::Current().Loop().WaitStep(
@@ -161,6 +180,11 @@ void Screen::Guarded(const std::function<void()>& step) {
   }
 }
 
+bool Screen::Work(const std::function<void()>& operation, const std::function<void()>& onBreak) {
+  const Restored<std::function<void()>> restored(onBreak_, onBreak);
+  return Work(operation);
+}
+
 bool Screen::Work(const std::function<void()>& operation) {
   bool finished = false;
   log_.Clear();
@@ -174,7 +198,7 @@ bool Screen::Work(const std::function<void()>& operation) {
     });
   }
   while (!IsWorking() && !left_.empty()) TakeOff(std::shared_ptr<Dialog>(left_.back()));
-  if (!IsWorking() && !terminal_.IsGone()) session_.Signals().Resume();
+  if (!IsWorking()) session_.Signals().Resume();
   isStale_ = true;
   return finished;
 }

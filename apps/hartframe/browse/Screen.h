@@ -42,7 +42,7 @@ class Screen : public ConsoleScreen {
   void OnIdle();
 
   // Shows the dialog and lets the message loop run until it is done. True when it was accepted;
-  // Ctrl-C cancels it.
+  // Ctrl-C cancels it, and nothing else.
   bool Run(Dialog& dialog);
   // Shows a dialog that gets no keys, for a while; false when the user has broken off.
   bool Show(TimedDialog& dialog, platform::Milliseconds time, bool countdown);
@@ -54,6 +54,11 @@ class Screen : public ConsoleScreen {
   // is told why.
   bool Work(const std::function<void()>& operation);
   bool IsWorking() const { return working_ > 0; }
+  // The same, with something else done when the user ends it than to cancel what waits for the
+  // device. The operation goes on after that.
+  bool Work(const std::function<void()>& operation, const std::function<void()>& onBreak);
+  // Ctrl-C has come while nothing was under way; tells it once.
+  bool TakeBreak() { return std::exchange(wantsBreak_, false); }
   // A dialog waits for its keys.
   bool IsAsking() const { return !modal_.empty(); }
   bool IsGone() const { return terminal_.IsGone(); }
@@ -73,6 +78,7 @@ class Screen : public ConsoleScreen {
   void Progress(const std::string& title, double percent) override;
 
  private:
+  void OnBreak();
   bool IsBusy() const { return IsWorking() || isIdling_ || (base_ && base_->IsLocked()); }
   void OnBusyKey(const Key& key);
   void DropTypedAhead();
@@ -90,6 +96,8 @@ class Screen : public ConsoleScreen {
   std::vector<std::shared_ptr<Dialog>> left_;
   std::deque<Key> typedAhead_;
   int working_ = 0;
+  std::function<void()> onBreak_;
+  bool wantsBreak_ = false;
   bool isIdling_ = false;
   bool isStale_ = true;
   platform::Milliseconds lastDrawn_{};
