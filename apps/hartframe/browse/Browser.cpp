@@ -121,17 +121,15 @@ std::string Browser::WhyReadOnly() {
 std::string Browser::StatusLine() {
   const Options& options = session_.Settings();
   const std::size_t pending = actions_.Pending();
-  return " " +
-         Joined({options.dtm,
-                 options.link == LinkKind::Echo ? "echo"
-                 : options.deviceFile.empty()   ? "device"
-                                                : options.deviceFile.filename().string(),
-                 session_.Row(Internal(names::kDTMOnlineState)).value,
-                 session_.Say()(texts::kLanguageName),
-                 session_.Row(Internal(names::kFDTUserLevel)).value,
-                 pending == 0 ? std::string()
-                              : session_.Say()(texts::kPendingCount, {std::to_string(pending)})},
-                " | ");
+  const std::string link = options.link == LinkKind::Echo ? "echo"
+                           : options.deviceFile.empty()   ? "device"
+                                                          : options.deviceFile.filename().string();
+  std::vector<std::string> parts{options.dtm, link};
+  if (pending > 0) parts.push_back(session_.Say()(texts::kPendingCount, {std::to_string(pending)}));
+  parts.push_back(session_.Row(Internal(names::kDTMOnlineState)).value);
+  parts.push_back(session_.Say()(texts::kLanguageName));
+  parts.push_back(session_.Row(Internal(names::kFDTUserLevel)).value);
+  return " " + Joined(parts, " | ");
 }
 
 void Browser::Draw(Picture& picture) {

@@ -135,6 +135,7 @@ void Browser::RunMethod(const Row& row) {
   bool isBroken = false;
   session_.Errors().Forget();
   messages_.Forget();
+  messages_.SetOnErrorCancelled([&watch] { watch.AbortAll(); });
   const bool finished = WorkForUser(
       [&] {
         ThoroughReader(session_).ReadConditions(row.item.definition);
@@ -146,6 +147,7 @@ void Browser::RunMethod(const Row& row) {
         watch.AbortAll();
         session_.Components().CancelOperation();
       });
+  messages_.SetOnErrorCancelled({});
   if (watch.IsAborted()) {
     TellAborted(row, CauseOfAbort(watch, session_.Errors(), isBroken || messages_.WasCancelled()));
   } else if (finished && watch.HasStarted()) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <deque>
+#include <optional>
 #include <string>
 
 #include "hartframe/browse/Picture.h"
@@ -16,19 +17,23 @@ struct LogEntry {
   int count = 1;  // how often it came in a row
 };
 
-// The last messages, the newest first.
+// The last messages, the newest first, and the one for the message line.
 class MessageLog {
  public:
+  // What the user's own doing came to; it has the message line until Clear.
+  void AddOutcome(Tone tone, std::string text, std::string help = {});
+  // What comes from the background has the line when there is no outcome.
   void Add(Tone tone, std::string text, std::string help = {});
   const std::deque<LogEntry>& Entries() const { return entries_; }
-  // Takes the newest off the screen; it stays in the list.
-  void Clear() { shown_ = false; }
-  // The newest; nothing when it was cleared, or there is none.
-  const LogEntry* Newest() const { return shown_ ? &entries_.front() : nullptr; }
+  // Takes the message off the line; it stays in the list.
+  void Clear();
+  // Nothing when there is none.
+  const LogEntry* Shown() const;
 
  private:
   std::deque<LogEntry> entries_;
-  bool shown_ = false;
+  std::optional<LogEntry> outcome_;
+  bool isShown_ = false;  // the newest one
 };
 
 }  // namespace hartframe::browse

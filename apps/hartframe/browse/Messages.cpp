@@ -52,22 +52,29 @@ bool IsError(const UserMessage& message, const std::string& language) {
 std::int32_t Messages::Show(UserMessage& message) {
   // What comes while another dialog waits is from the background.
   const bool stops = errorsStop_ && !screen_.IsAsking();
-  if (!message.input && !stops && IsError(message, session_.Say().Language())) {
-    screen_.Tell(ToneOf(message.icon), message.title + ": " + message.prompt, message.help);
+  const bool isError = !message.input && IsError(message, session_.Say().Language());
+  if (isError && !stops) {
+    screen_.TellInBackground(ToneOf(message.icon), message.title + ": " + message.prompt,
+                             message.help);
     return 0;
   }
   if (session_.Interrupted()) return ZAFHartTypes::kMessageCancelled;
   if (message.displayId > 0) Hide(message.displayId);
   const std::int32_t answer = Answer(message);
-  if (answer == ZAFHartTypes::kMessageCancelled) wasCancelled_ = true;
+  if (answer != ZAFHartTypes::kMessageCancelled) return answer;
+  wasCancelled_ = true;
+  if (isError && onErrorCancelled_) onErrorCancelled_();
   return answer;
 }
 
 std::int32_t Messages::Answer(UserMessage& message) {
   if (message.input) return Ask(message);
-  if (message.delay >= 0) return ShowForAWhile(message);
+  const bool canBeRead = message.icon == MessageIcon::Critical || message.delay < 0;
+  if (!canBeRead) return ShowForAWhile(message);
   TextDialog dialog(session_.Say(), HeadOf(message));
-  return screen_.Run(dialog) ? 0 : ZAFHartTypes::kMessageCancelled;
+  const bool isRead = message.delay < 0 ? screen_.Run(dialog)
+                                        : screen_.Run(dialog, std::chrono::seconds(message.delay));
+  return isRead ? 0 : ZAFHartTypes::kMessageCancelled;
 }
 
 std::int32_t Messages::Ask(UserMessage& message) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <map>
 
 #include "hartframe/browse/Dialogs.h"
@@ -22,6 +23,8 @@ class Messages {
   // Errors are dialogs from now on, or not.
   void SetErrorsStop(bool stop) { errorsStop_ = stop; }
   bool ErrorsStop() const { return errorsStop_; }
+  // What cancelling an error does beside answering it: the runtime would try again.
+  void SetOnErrorCancelled(std::function<void()> action) { onErrorCancelled_ = std::move(action); }
   // The user has cancelled a message since Forget.
   bool WasCancelled() const { return wasCancelled_; }
   void Forget() { wasCancelled_ = false; }
@@ -35,6 +38,7 @@ class Messages {
   Screen& screen_;
   bool errorsStop_ = false;
   bool wasCancelled_ = false;
+  std::function<void()> onErrorCancelled_;
   std::int32_t lastId_ = 0;
   std::map<std::int32_t, std::shared_ptr<Dialog>> left_;  // on the screen, by display id
 };

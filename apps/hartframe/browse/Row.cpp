@@ -27,8 +27,17 @@ VariableRow VariableRowOf(Session& session, const Definition& definition) {
   return row;
 }
 
+// A group has no label: those of its members say what it is.
+std::string GroupLabel(Session& session, const Definition& definition) {
+  std::vector<std::string> labels;
+  const auto group = session.Kernel().GetWriteAsOne(definition);
+  for (const auto& member : std::vector(group->Items()))
+    labels.push_back(session.Say().Pick(session.Variable(member.definition)->Label()));
+  return Joined(labels, ", ");
+}
+
 std::string LabelOf(Session& session, const Definition& definition) {
-  if (definition.Kind() == ObjectKind::WriteAsOne) return session.Say()(texts::kGroup);
+  if (definition.Kind() == ObjectKind::WriteAsOne) return GroupLabel(session, definition);
   if (definition.Kind() == ObjectKind::Menu)
     return session.Say().Pick(MultilingualLabel(*session.Kernel().GetMenu(definition)));
   const auto object = session.Database().ReadObject(definition);

@@ -89,6 +89,7 @@ void Screen::OnKey(const Key& key) {
   } else if (IsBusy()) {
     OnBusyKey(key);
   } else if (base_) {
+    log_.Clear();
     Guarded([&] { base_->OnKey(key); });
   }
 }
@@ -124,12 +125,12 @@ void Screen::OnIdle() {
 
 // --- dialogs ---
 
-bool Screen::Run(Dialog& dialog) {
+void Screen::Attend(Dialog& dialog, const std::function<bool()>& isEnough) {
   DropTypedAhead();
   const Entry<Dialog> shown(shown_, dialog);
   const Entry<Dialog> modal(modal_, dialog);
   isStale_ = true;
-  while (!dialog.IsDone()) {
+  while (!dialog.IsDone() && !isEnough()) {
     if (terminal_.IsGone()) {
       dialog.Cancel();
     } else {
@@ -137,22 +138,26 @@ bool Screen::Run(Dialog& dialog) {
     }
   }
   isStale_ = true;
+}
+
+bool Screen::Run(Dialog& dialog) {
+  Attend(dialog, [] { return false; });
   return dialog.IsAccepted();
 }
 
+bool Screen::Run(Dialog& dialog, platform::Milliseconds atMost) {
+  const auto end = platform::Current().GetClock().Now() + atMost;
+  Attend(dialog, [end] { return SecondsUntil(end) <= 0; });
+  return dialog.IsAccepted() || !dialog.IsDone();
+}
+
 bool Screen::Show(TimedDialog& dialog, platform::Milliseconds time, bool countdown) {
-  DropTypedAhead();
-  const Entry<Dialog> shown(shown_, dialog);
-  const Entry<Dialog> modal(modal_, dialog);
   const auto end = platform::Current().GetClock().Now() + time;
-  while (SecondsUntil(end) > 0 && !dialog.IsDone()) {
-    if (terminal_.IsGone()) dialog.Cancel();
+  Attend(dialog, [&] {
     if (countdown) dialog.SetSecondsLeft(SecondsUntil(end));
-    isStale_ = true;
-    platform::Current().Loop().WaitStep(
-        std::min(kStep, end - platform::Current().GetClock().Now()));
-  }
-  isStale_ = true;
+    isStale_ = isStale_ || countdown;
+    return SecondsUntil(end) <= 0;
+  });
   return !dialog.IsDone();
 }
 
@@ -206,6 +211,11 @@ bool Screen::Work(const std::function<void()>& operation) {
 // --- what is shown ---
 
 void Screen::Tell(Tone tone, const std::string& text, const std::string& help) {
+  log_.AddOutcome(tone, text, help);
+  isStale_ = true;
+}
+
+void Screen::TellInBackground(Tone tone, const std::string& text, const std::string& help) {
   log_.Add(tone, text, help);
   isStale_ = true;
 }
@@ -242,7 +252,7 @@ Picture Screen::MakePicture() {
   if (base_) base_->Draw(picture);
   picture.progress = progress_;
   picture.percent = percent_;
-  if (const LogEntry* entry = log_.Newest()) {
+  if (const LogEntry* entry = log_.Shown()) {
     picture.message = entry->line;
     if (entry->count > 1) picture.message += " (" + std::to_string(entry->count) + "x)";
     picture.messageTone = entry->tone;

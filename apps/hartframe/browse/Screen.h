@@ -44,6 +44,8 @@ class Screen : public ConsoleScreen {
   // Shows the dialog and lets the message loop run until it is done. True when it was accepted;
   // Ctrl-C cancels it, and nothing else.
   bool Run(Dialog& dialog);
+  // The same; after that time the dialog stands as accepted.
+  bool Run(Dialog& dialog, platform::Milliseconds atMost);
   // Shows a dialog that gets no keys, for a while; false when the user has broken off.
   bool Show(TimedDialog& dialog, platform::Milliseconds time, bool countdown);
   // The dialog stays on the screen after that, until it is taken off or the operation has ended.
@@ -63,8 +65,11 @@ class Screen : public ConsoleScreen {
   bool IsAsking() const { return !modal_.empty(); }
   bool IsGone() const { return terminal_.IsGone(); }
 
+  // What the user's own doing came to.
   void Tell(Tone tone, const std::string& text, const std::string& help = {});
-  MessageLog& Log() { return log_; }
+  // For what the user has not started himself.
+  void TellInBackground(Tone tone, const std::string& text, const std::string& help);
+  const MessageLog& Log() const { return log_; }
   // Something has changed.
   void Redraw() { isStale_ = true; }
   // Draws it now, unless that was done a moment ago.
@@ -78,6 +83,8 @@ class Screen : public ConsoleScreen {
   void Progress(const std::string& title, double percent) override;
 
  private:
+  // Gives the dialog the keys until it is done, or it is enough.
+  void Attend(Dialog& dialog, const std::function<bool()>& isEnough);
   void OnBreak();
   bool IsBusy() const { return IsWorking() || isIdling_ || (base_ && base_->IsLocked()); }
   void OnBusyKey(const Key& key);

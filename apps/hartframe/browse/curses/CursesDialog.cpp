@@ -34,13 +34,14 @@ CursesDialog::CursesDialog(const DialogPicture& picture, Size screen) : width_(p
     list_ = std::make_unique<CursesList>(window_.get(), row_, kFrame, width_, *picture.list);
     row_ += static_cast<int>(picture.list->height);
   }
-  for (const std::string& line : picture.note) Print(line, LookOf(Tone::Bad));
   if (picture.field) DrawField(picture);
+  const int fieldRow = row_ - 1;
+  for (const std::string& line : picture.note) Print(line, LookOf(Tone::Bad));
   ++row_;
   Print(picture.keys, LookOf(Tone::Faint));
   if (field_) {
     curs_set(1);
-    wmove(window_.get(), row_ - 3, kFrame + field_->CursorColumn());
+    wmove(window_.get(), fieldRow, kFrame + field_->CursorColumn());
   }
 }
 

@@ -1,0 +1,272 @@
+// The screen of the frame application, driven with keys over the demo device.
+#include "hartframe/TextReport.h"
+#include "hartframe/browse/Browser.h"
+#include "interfaces/InternalNames.h"
+#include "support/HartframeTest.h"
+#include "support/screen/ScriptedTerminal.h"
+
+namespace {
+
+using namespace support;
+using hartframe::browse::KeyCode;
+using Sees = ScriptedTerminal::Sees;
+using Hides = ScriptedTerminal::Hides;
+using Steps = ScriptedTerminal::Steps;
+using Until = ScriptedTerminal::Until;
+using testing::HasSubstr;
+
+const auto kEnter = Press(KeyCode::Enter);
+const auto kEscape = Press(KeyCode::Escape);
+const auto kUp = Press(KeyCode::Up);
+const auto kDown = Press(KeyCode::Down);
+const auto kEnd = Press(KeyCode::End);
+
+Until Now(const std::function<void()>& action) {
+  return [action] {
+    action();
+    return true;
+  };
+}
+
+Steps operator+(Steps a, const Steps& b) {
+  a.insert(a.end(), b.begin(), b.end());
+  return a;
+}
+
+Steps Times(int count, const hartframe::browse::Key& key) {
+  return Steps(static_cast<std::size_t>(count), key);
+}
+
+// Replaces what a field holds.
+Steps Typed(const std::string& text) {
+  Steps steps = Times(40, Press(KeyCode::Backspace));
+  for (const char c : text) steps.emplace_back(Press(static_cast<char32_t>(c)));
+  steps.emplace_back(kEnter);
+  return steps;
+}
+
+class Browse : public testing::Test {
+ protected:
+  Browse() {
+    folder_.Write("device.txt", TempFolder::Read(ZAF_DEMO_DEVICE));
+    platform_.Classes().LoadPlugin(std::filesystem::path(ZAF_DTM_FOLDER) /
+                                   "libsampletemperature.so");
+    options_.command = hartframe::CommandKind::Browse;
+    options_.dtm = "SampleTemperature";
+    options_.deviceFile = folder_ / "device.txt";
+    options_.link = hartframe::LinkKind::Device;
+  }
+
+  hartframe::ExitCode Play(Steps steps) {
+    hartframe::Session session(options_, console_, speech_, report_);
+    session_ = &session;
+    session.Open();
+    ScriptedTerminal terminal(*clock_);
+    terminal_ = &terminal;
+    const auto pending = hartframe::LoadPending(session);
+    hartframe::browse::Browser browser(session, terminal);
+    terminal.Play(browser.KeyTarget(), std::move(steps));
+    const auto code = browser.Run(pending);
+    hartframe::KeepPending(session, browser.NotAccepted());
+    return code;
+  }
+  std::string Device() const { return TempFolder::Read(options_.deviceFile); }
+  std::string Pending() const {
+    return TempFolder::Read(options_.deviceFile.string() + ".pending");
+  }
+
+  TempFolder folder_;
+  platform::ManualClock* clock_ = new platform::ManualClock;
+  platform::Platform platform_{std::unique_ptr<platform::Clock>(clock_)};
+  platform::PlatformScope scope_{platform_};
+  hartframe::Options options_;
+  hartframe::Console console_;
+  hartframe::Speech speech_{"en"};
+  hartframe::TextReport report_{console_, speech_};
+  hartframe::Session* session_ = nullptr;
+  ScriptedTerminal* terminal_ = nullptr;
+};
+
+const Steps kToService =
+    Steps{Sees{"Temperature transmitter"}, kEnter, Sees{"Device setup"}, kDown, kDown, kEnter,
+          Sees{"Service interval"}};
+const Steps kToTests = kToService + Steps{kEnd, kUp, kEnter, Sees{"> Tests"}, Sees{"Enabled"}};
+
+TEST_F(Browse, ShowsLiveValuesInTheLanguageOfTheMoment) {
+  std::string first;
+  const auto code = Play({Sees{"Online parameters"},
+                          kEnter,
+                          Sees{"Device setup"},
+                          kEnter,
+                          Sees{"Start > Temperature transmitter > Process variables"},
+                          Sees{"live, read-only"},
+                          Hides{"not read"},
+                          Now([&] { first = terminal_->Text(); }),
+                          Until([&] { return terminal_->Text() != first; }),
+                          Press(U'l'),
+                          Sees{">English"},
+                          kDown,
+                          kEnter,
+                          Sees{"Prozessgrößen"},
+                          Sees{"Messwert, nur lesbar"},
+                          Sees{"q:Ende"},
+                          Press(U'l'),
+                          Sees{">Deutsch"},
+                          kEnd,
+                          kEnter,
+                          Sees{"q:owaru"},
+                          kEscape,
+                          kEscape,
+                          Sees{"Sutaato"},
+                          Press(U'q')});
+  EXPECT_EQ(code, hartframe::ExitCode::Ok);
+}
+
+TEST_F(Browse, RefusedValuesStayToBeMendedAndGoodOnesAreWritten) {
+  Play(kToService + Steps{Sees{"180"}, kDown, kEnter, Sees{"Allowed: 0 to 3650 d."}} +
+       Typed("9999") + Steps{Sees{"_9999_\nNot accepted. Allowed: 0 to 3650 d."}} + Typed("200") +
+       Steps{Sees{"200"}, Sees{"to be written"}, Sees{"| 1 to be written |"}, Press(U'w'),
+             Sees{"1 of 1 written to the device."}, kEnter, Hides{"to be written"}, Press(U'q')});
+  EXPECT_THAT(Device(), HasSubstr("\nservice_interval=200\n"));
+}
+
+TEST_F(Browse, ChangesThatAreNotWrittenAreKeptForTheNextRun) {
+  const auto ask = [](const char* choice) {
+    return Steps{Press(U'q'), Sees{"1 changes are not written yet."}, kDown, kDown, Sees{choice},
+                 kEnter};
+  };
+  Play(kToService + Steps{kDown, kEnter, Sees{"_180_"}} + Typed("200") + ask(">Keep them in"));
+  EXPECT_THAT(Pending(), HasSubstr("service_interval=200"));
+  Play(kToService + Steps{Sees{"1 to be written"}, kDown, Press(KeyCode::Delete),
+                          Sees{"Service interval: the change is given up."}, Sees{"180"},
+                          Press(U'q')});
+  EXPECT_EQ(Pending(), "");
+}
+
+TEST_F(Browse, AGroupIsCompleteWhenEveryMemberWasLookedAt) {
+  const Steps toGroup{Sees{"Temperature transmitter"},
+                      kEnter,
+                      Sees{"Device setup"},
+                      kDown,
+                      kEnter,
+                      Sees{"Linearisation"},
+                      kDown,
+                      kEnter,
+                      Sees{"473.15"},
+                      kEnd,
+                      kUp,
+                      kEnter,
+                      Sees{"> Measuring range"},
+                      kEnd,
+                      kUp,
+                      kEnter,
+                      Sees{"[ ] Lower range value"}};
+  const Steps lower =
+      Steps{kDown, kEnter, Sees{"_273.15_"}} + Typed("280") + Steps{Sees{"[x] Lower range value"}};
+  Play(toGroup + lower +
+       Steps{kEscape, Sees{"highlighted variables must be all checked"}, kEnter, Sees{">Stay here"},
+             kDown, kEnter, Sees{"Damping"}, Hides{"1 to be written"}, kEnter,
+             Sees{"[ ] Lower range value"}} +
+       lower +
+       Steps{kUp, kEnter, Sees{">K"}, kEnter, Sees{"[x] Range unit"}, kDown, kDown, kEnter,
+             Sees{"_473.15_"}, kEnter, Sees{"[x] Upper range value"}, kEscape, Sees{"Damping"},
+             Press(U'w'), Sees{"1 of 1 written"}, kEnter, Press(U'q')});
+  EXPECT_THAT(Device(), HasSubstr("\nlower_range_value=280\n"));
+}
+
+TEST_F(Browse, AMethodTalksInDialogsAndCleansUpWhenItIsCancelled) {
+  Play(kToTests +
+       Steps{kDown, kDown, kEnter, Sees{"Take the loop out"}, kEnter, Sees{"Another value"}, kDown,
+             kDown, kEnter, Sees{"Current in mA"}} +
+       Typed("30") + Steps{Sees{"The greatest value is"}, kEnter, Sees{"Current in mA"}} +
+       Typed("12") +
+       Steps{Sees{"holds 12.000 mA"}, kEnter, Sees{"Current to fix"}, kEscape,
+             Sees{"The loop current follows the measurement again."},
+             Sees{"\"Loop test\" was aborted: cancelled by the user."}, kEnd, kEnter,
+             Sees{"Seconds to watch"}, kEnter, Sees{"Percent of range:"}, kEscape,
+             Sees{"\"Watch measurement\" was aborted"}, kUp, kEnter, Sees{"Start it?"}, kDown,
+             kEnter, Sees{"[Self test]"}});
+}
+
+TEST_F(Browse, AMethodThatWaitsForTheDeviceIsCancelled) {
+  options_.latencyMilliseconds = 3000;
+  platform::Milliseconds start{};
+  Play(kToTests + Steps{kEnd, kUp, kEnter, Sees{"Start it?"}, kDown, kEnter, Sees{"Busy"},
+                        Now([&] { start = clock_->Now(); }), kEscape,
+                        Sees{"\"Self test\" was aborted: cancelled by the user."}});
+  EXPECT_LT(clock_->Now() - start, platform::Milliseconds(1000));
+}
+
+TEST_F(Browse, WhoMayNotWriteSeesWhy) {
+  options_.userLevel = ZAFHartTypes::UserLevel::Observer;
+  Play(kToService +
+       Steps{Sees{"read-only: observer"}, kEnter, Sees{"Service date: read-only: observer"}, kEnd,
+             kEnter, Hides{"Reset it?"}, Press(U'w'), Sees{"read-only: observer"}, Now([&] {
+               session_->Database().WriteValue(
+                   ZAFHartTypes::Definition::Define(ZAFHartTypes::internal_names::kDataSetLockState,
+                                                    ZAFHartTypes::ObjectKind::Variable),
+                   1);
+             }),
+             Press(U'?'), Sees{"Restarts the device"}, kEnter, Press(U'r'),
+             Sees{"read-only: data set locked"}});
+}
+
+TEST_F(Browse, AFaultOfTheLinkIsToldAndTheScreenGoesOn) {
+  options_.faults = {"no-reply"};
+  Play(kToService + Steps{Sees{"could not establish a connection"},
+                          Sees{"impossibe"},
+                          Press(U'm'),
+                          Sees{"[Messages]"},
+                          kEnter,
+                          Sees{"Critical Error:"},
+                          Press(KeyCode::Help),
+                          Sees{"Check the device"},
+                          kEnter,
+                          kEscape,
+                          Press(U'u'),
+                          Sees{"The device does not answer."},
+                          kEnter,
+                          kEnd,
+                          kEnter,
+                          Sees{"Reset it?"},
+                          kDown,
+                          kEnter,
+                          Sees{"[Critical Error]"},
+                          kEscape,
+                          Sees{"\"Device reset\" was aborted"}});
+}
+
+TEST_F(Browse, DownloadKeepsTheChangesAndUploadAsksBeforeItLosesThem) {
+  Play(kToService + Steps{kDown, kEnter, Sees{"_180_"}} + Typed("200") +
+       Steps{Press(U'u'), Sees{"Loading gives up 1 changes"}, kEnter, Sees{"1 to be written"},
+             Press(U'd'), Sees{"The data set is loaded"}, kDown, kEnter,
+             Sees{"[Write all to the device]"}, Sees{"Service interval  200 d"}, kEnter,
+             Hides{"1 to be written"}});
+  EXPECT_THAT(Device(), HasSubstr("\nservice_interval=200\n"));
+}
+
+TEST_F(Browse, ScrollsWhatIsTooLongAndSaysWhenTheWindowIsTooSmall) {
+  Play({Sees{"Offline parameters"}, kEnd, kEnter, Sees{"> Offline parameters"}, kEnd, Sees{">    "},
+        Now([&] {
+          terminal_->SetSize({20, 80});
+        }),
+        Press(KeyCode::Resize), Sees{"it needs 80 x 24"}, Now([&] {
+          terminal_->SetSize({40, 120});
+        }),
+        Press(KeyCode::Resize), Sees{"Offline parameters"}, Press(U'q')});
+}
+
+// The real program on a real terminal.
+TEST_F(Hartframe, BrowseDrawsOnTheTerminalAndPutsItBack) {
+  setenv("TERM", "xterm-256color", 1);
+  ChildProgram program(WithDevice({"browse", "--lang", "en"}), ChildProgram::Streams::Terminal);
+  ASSERT_TRUE(program.WaitFor("Temperature transmitter"));
+  program.Type("");
+  ASSERT_TRUE(program.WaitFor("Device setup"));
+  program.Interrupt();
+  EXPECT_EQ(program.Finish(), 0);
+  EXPECT_THAT(program.Error(), HasSubstr("\033[?1049l")) << "back to the shell's screen";
+  EXPECT_EQ(Run({"browse"}).code, 1) << "there is no terminal";
+}
+
+}  // namespace
