@@ -5,6 +5,8 @@
 #include "hartframe/DataSet.h"
 #include "hartframe/Reading.h"
 #include "hartframe/ValueText.h"
+#include "hartframe/dataset/DataSetTexts.h"
+#include "hartframe/dataset/KeptDataSet.h"
 #include "types/Failure.h"
 
 namespace hartframe {
@@ -41,6 +43,36 @@ void Apply(Session& session, const Change& change) {
   session.Kernel().ExecuteRelations(change.definition);
 }
 
+// Two values that somebody typed: he has to say which one holds.
+void RequireOneValue(Session& session, const Change& change) {
+  if (!session.Kept()) return;
+  const auto variable = session.Variable(change.definition);
+  if (!variable->ToBeWritten()) return;
+  const auto value = AcceptedValue(change.value, *variable);
+  if (value && *value == variable->Value()) return;
+  throw CommandFailure(
+      ExitCode::NotAllowed,
+      session.Say()(texts::kTwoChanges,
+                    {change.definition.Name(), StoredText(variable->Value(), *variable),
+                     OneLine(change.value), session.Pending().Path().string()}));
+}
+
+// Tells where they are kept.
+void KeepInFiles(Session& session, const std::vector<PendingChange>& marked,
+                 const std::vector<PendingChange>& notAccepted) {
+  std::vector<PendingChange> kept = notAccepted;
+  if (session.Kept())
+    session.Kept()->Keep();
+  else
+    kept.insert(kept.begin(), marked.begin(), marked.end());
+  session.Pending().Save(kept);
+  const auto tell = [&](const std::filesystem::path& file) {
+    session.Tell().Note("pendingKept", session.Say()(Text::PendingKept, {file.string()}));
+  };
+  if (session.Kept() && !marked.empty()) tell(session.Kept()->Path());
+  if (!kept.empty() && session.Pending().Keeps()) tell(session.Pending().Path());
+}
+
 }  // namespace
 
 std::vector<Change> ParseChanges(Session& session, const std::vector<std::string>& texts) {
@@ -70,12 +102,16 @@ std::vector<Change> LoadPending(Session& session, const std::vector<Change>& ane
       return other.definition.IsSameAs(change.definition);
     });
   });
+  for (const Change& change : changes) RequireOneValue(session, change);
   return changes;
 }
 
 ExitCode ReadForChanges(Session& session, const std::vector<Change>& changes) {
   ThoroughReader reader(session);
   const bool finished = session.Run([&] {
+    // What is to be written already has its value.
+    for (const Definition& definition : PendingVariables(session))
+      reader.ReadConditions(definition);
     for (const Change& change : changes) reader.Read(change.definition);
   });
   if (!finished) {
@@ -123,18 +159,16 @@ std::vector<Change> PendingChanges(Session& session) {
 
 void KeepPending(Session& session, const std::vector<Change>& notAccepted) {
   std::vector<VariableRow> rows;
-  std::vector<PendingChange> kept;
+  std::vector<PendingChange> marked;
+  std::vector<PendingChange> others;
   for (const Change& change : PendingChanges(session)) {
     rows.push_back(session.Row(change.definition));
-    kept.push_back({change.definition.Name(), change.value});
+    marked.push_back({change.definition.Name(), change.value});
   }
-  for (const Change& change : notAccepted) kept.push_back({change.definition.Name(), change.value});
+  for (const Change& change : notAccepted)
+    others.push_back({change.definition.Name(), change.value});
   session.Tell().Pending(rows);
-  session.Pending().Save(kept);
-  if (!kept.empty() && session.Pending().Keeps()) {
-    session.Tell().Note("pendingKept",
-                        session.Say()(Text::PendingKept, {session.Pending().Path().string()}));
-  }
+  KeepInFiles(session, marked, others);
 }
 
 void RequireWriteAccess(const Session& session) {

@@ -16,7 +16,8 @@ struct Change {
 // Takes "NAME=VALUE" texts apart. CommandFailure (Usage) for another form or an unknown name.
 std::vector<Change> ParseChanges(Session& session, const std::vector<std::string>& texts);
 // Changes of earlier runs that are still to be written, without those of variables that are to be
-// changed anew. CommandFailure (FileBroken).
+// changed anew. CommandFailure: FileBroken, or NotAllowed when the data set on disk is to write
+// another value.
 std::vector<Change> LoadPending(Session& session, const std::vector<Change>& anew = {});
 
 // Reads what the changes concern, so that limits and units are the device's, and tells what went
@@ -33,7 +34,9 @@ std::vector<Change> ApplyPending(Session& session, const std::vector<Change>& ch
 std::vector<ZAFHartTypes::Definition> PendingVariables(Session& session);
 // The same as changes that make them so again.
 std::vector<Change> PendingChanges(Session& session);
-// Tells what is still to be written, and keeps it for a later run together with `notAccepted`.
+// Tells what is still to be written, and keeps it for a later run together with `notAccepted`: in
+// the data set on disk, when the session works on one; what is not accepted, and all without one,
+// in the file of pending changes.
 void KeepPending(Session& session, const std::vector<Change>& notAccepted);
 // CommandFailure (NotAllowed) for an observer.
 void RequireWriteAccess(const Session& session);

@@ -16,5 +16,6 @@ ExitCode RunInfo(Session& session);
 ExitCode RunBrowse(Session& session);
 ExitCode RunMenu(Session& session);
 ExitCode RunMethod(Session& session);
+ExitCode RunSave(Session& session);
 
 }  // namespace hartframe

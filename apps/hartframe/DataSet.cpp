@@ -71,6 +71,15 @@ Loaded LoadDataSet(Session& session) {
   return loaded;
 }
 
+Loaded HeldDataSet(Session& session) {
+  Loaded held;
+  held.rows = MenuRows(
+      session, Definition::Define(session.Components().UpDownloadMenuName(), ObjectKind::Menu));
+  Count(held);
+  if (held.notAttempted > 0) held.code = ExitCode::NotAllowed;
+  return held;
+}
+
 void TellLoaded(Session& session, const Loaded& loaded) {
   const Speech& say = session.Say();
   std::string sentence = say(Text::Loaded, {std::to_string(loaded.loaded)});

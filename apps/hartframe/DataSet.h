@@ -20,6 +20,8 @@ struct Loaded {
 
 // Loads the variables of the DTM's upload menu.
 Loaded LoadDataSet(Session& session);
+// The same variables as they stand in the data set; not attempted are those without a value.
+Loaded HeldDataSet(Session& session);
 // Says how it ended, in sentences.
 void TellLoaded(Session& session, const Loaded& loaded);
 

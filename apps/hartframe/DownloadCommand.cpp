@@ -6,6 +6,8 @@
 #include "hartframe/DataSet.h"
 #include "hartframe/Transfers.h"
 #include "hartframe/WriteWatch.h"
+#include "hartframe/dataset/DataSetTexts.h"
+#include "hartframe/dataset/KeptDataSet.h"
 
 namespace hartframe {
 
@@ -43,18 +45,31 @@ void TellDownload(Session& session, std::vector<WriteResult> results,
       "written", session.Say()(Text::Written, {std::to_string(written), std::to_string(total)}));
 }
 
+// The data set on disk, or what the device has. Tells why it is not complete.
+Loaded DataSetToWrite(Session& session) {
+  const Speech& say = session.Say();
+  if (session.Kept() && !session.Kept()->IsNew()) {
+    Loaded held = HeldDataSet(session);
+    if (!held.IsComplete()) {
+      session.Tell().Problem("incomplete",
+                             say(texts::kIncompleteFile, {std::to_string(held.notAttempted)}));
+    }
+    return held;
+  }
+  Loaded loaded = LoadDataSet(session);
+  TellLoaded(session, loaded);
+  if (!loaded.IsComplete()) session.Tell().Problem("incomplete", say(Text::IncompleteDataSet));
+  return loaded;
+}
+
 }  // namespace
 
 ExitCode RunDownload(Session& session) {
   RequireWriteAccess(session);
   const std::vector<Change> changes = ParseChanges(session, session.Settings().changes);
   const std::vector<Change> pending = LoadPending(session, changes);
-  const Loaded loaded = LoadDataSet(session);
-  TellLoaded(session, loaded);
-  if (!loaded.IsComplete()) {
-    session.Tell().Problem("incomplete", session.Say()(Text::IncompleteDataSet));
-    return loaded.code;
-  }
+  const Loaded loaded = DataSetToWrite(session);
+  if (!loaded.IsComplete()) return loaded.code;
   const std::vector<Change> notAccepted = ApplyPending(session, pending);
   ApplyChanges(session, changes);
   return DownloadAndTell(session, loaded, changes, notAccepted);

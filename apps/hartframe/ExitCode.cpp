@@ -19,8 +19,10 @@ constexpr std::array kEntries{
     Entry{ExitCode::Ok, "ok", "done"},
     Entry{ExitCode::Usage, "usage", "wrong arguments, or a name that the DTM does not have"},
     Entry{ExitCode::ValueRefused, "valueRefused", "a value was not accepted; nothing was written"},
-    Entry{ExitCode::NotAllowed, "notAllowed",
-          "the user level forbids it, the method is not valid, or pending changes would be lost"},
+    Entry{
+        ExitCode::NotAllowed, "notAllowed",
+        "the user level forbids it, the method is not valid, pending changes would be lost, or the "
+        "data set is another device type's"},
     Entry{ExitCode::MethodAborted, "methodAborted",
           "the method was aborted: by the user, the device's status, or itself"},
     Entry{ExitCode::AnswerRefused, "answerRefused",
@@ -29,7 +31,8 @@ constexpr std::array kEntries{
     Entry{ExitCode::DtmNotLoadable, "dtmNotLoadable", "the DTM cannot be loaded"},
     Entry{ExitCode::DeviceRefused, "deviceRefused", "the device answered with an error"},
     Entry{ExitCode::Communication, "communication", "the device did not answer, or not properly"},
-    Entry{ExitCode::FileBroken, "fileBroken", "the device file cannot be used"},
+    Entry{ExitCode::FileBroken, "fileBroken",
+          "a device file, a file of pending changes or a data set cannot be used"},
     Entry{ExitCode::Internal, "internal", "a failure that should not be"},
     Entry{ExitCode::Interrupted, "interrupted", "ended by Ctrl-C"},
 };

@@ -2,6 +2,8 @@
 #include "hartframe/Changes.h"
 #include "hartframe/Commands.h"
 #include "hartframe/DataSet.h"
+#include "hartframe/dataset/DataSetTexts.h"
+#include "hartframe/dataset/KeptDataSet.h"
 #include "interfaces/InternalNames.h"
 
 namespace hartframe {
@@ -31,6 +33,18 @@ void TellDtm(Session& session) {
       {"link", say(Text::InfoLink), link},
       {"pendingChanges", say(Text::InfoPending), std::to_string(LoadPending(session).size())}};
   session.Tell().Facts("dtmFacts", say(Text::InfoDtm), facts);
+}
+
+void TellDataSet(Session& session) {
+  if (!session.Kept() || !session.Kept()->Loaded()) return;
+  const Speech& say = session.Say();
+  const StoredDataSet& dataSet = *session.Kept()->Loaded();
+  std::vector<Fact> facts{
+      {"file", say(texts::kFactFile), session.Kept()->Path().string()},
+      {"saved", say(texts::kFactSaved), OneLine(dataSet.saved)},
+      {"variables", say(texts::kFactVariables), std::to_string(dataSet.variables.size())},
+      {"pendingChanges", say(Text::InfoPending), std::to_string(PendingVariables(session).size())}};
+  session.Tell().Facts("dataSet", say(texts::kDataSetTitle), facts);
 }
 
 // HART command 0, Read Unique Identifier; nothing when the DTM has none.
@@ -106,6 +120,7 @@ void TellStates(Session& session) {
 
 ExitCode RunInfo(Session& session) {
   TellDtm(session);
+  TellDataSet(session);
   const ExitCode code = TellDevice(session);
   TellStates(session);
   return code;

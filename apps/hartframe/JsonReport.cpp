@@ -108,8 +108,9 @@ Json MenuRowsJson(std::span<const MenuRow> rows) {
 constexpr int kOneLine = -1;
 constexpr const char* kOutcomes[] = {"written",     "adjusted", "refused",
                                      "notAccepted", "noAnswer", "notAttempted"};
-constexpr const char* kCommands[] = {"upload", "download", "write", "read", "list",
-                                     "watch",  "info",     "menu",  "run",  "probe-plugin"};
+constexpr const char* kCommands[] = {"upload", "download", "write", "read",
+                                     "list",   "watch",    "info",  "menu",
+                                     "run",    "browse",   "save",  "probe-plugin"};
 
 }  // namespace
 

@@ -74,6 +74,12 @@ void AddLinkOptions(CLI::App& app, Parsed& parsed) {
       ->check(CLI::Range(0, 600000));
 }
 
+void AddDataSetOption(CLI::App& app, Options& options) {
+  app.add_option("--dataset", options.dataSetFile,
+                 "Data set on disk to work on: restored at the start, kept at the end")
+      ->type_name("FILE");
+}
+
 void AddOutputOptions(CLI::App& app, Parsed& parsed) {
   Options& options = parsed.options;
   app.add_option("--lang", options.language, "Language of texts (default: the environment's)")
@@ -166,6 +172,17 @@ void AddCommands(CommandAdder& adder, Options& options) {
       ->allow_extra_args(false);
   run.add_flag("--yes", options.yes, "Acknowledge what only informs, without an --answer for it");
 
+  CLI::App& save = adder.Add(CommandKind::Save, "save",
+                             "Load the data set from the device, with changes if given, and save "
+                             "it in a file");
+  save.add_option("file", options.saveFile, "The data set file, which is made or replaced")
+      ->required()
+      ->type_name("FILE");
+  save.add_option("changes", options.changes, "Changes to make, to be written later")
+      ->type_name("NAME=VALUE");
+  save.add_flag("--no-upload", options.noUpload,
+                "Save what there is without the device: the DTM's defaults, or the --dataset");
+
   adder.Add(CommandKind::Browse, "browse", "Work with the DTM's menus on a screen");
 
   // The program runs itself with this, to see whether a plug-in can be loaded at all.
@@ -222,6 +239,7 @@ Options ParseCommandLine(int argc, char** argv) {
   app.fallthrough();
   AddDtmOptions(app, parsed);
   AddLinkOptions(app, parsed);
+  AddDataSetOption(app, parsed.options);
   AddOutputOptions(app, parsed);
   CommandAdder adder(app, parsed.options);
   AddCommands(adder, parsed.options);

@@ -20,6 +20,7 @@ enum class CommandKind {
   Menu,
   Run,
   Browse,
+  Save,
   ProbePlugin
 };
 enum class LinkKind { Echo, Device };
@@ -32,6 +33,7 @@ struct Options {
   std::vector<std::filesystem::path> pluginPath;  // absolute
   std::filesystem::path deviceFile;               // empty: none
   LinkKind link = LinkKind::Echo;
+  std::filesystem::path dataSetFile;  // that the run works on; empty: none
   std::vector<std::string> faults;
   int latencyMilliseconds = 0;
   int pollingAddress = 0;  // of the device
@@ -40,6 +42,8 @@ struct Options {
   bool json = false;
   ZAFHartTypes::UserLevel userLevel = ZAFHartTypes::UserLevel::PlanningEngineer;
   bool discard = false;
+  std::filesystem::path saveFile;  // of save
+  bool noUpload = false;           // save: what the data set holds as it is
 
   std::optional<int> trace;  // highest level of trace lines; nothing: no tracing
   int traceDepth = 0;        // highest stack level; 0: the same as `trace`

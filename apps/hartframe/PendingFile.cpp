@@ -1,5 +1,6 @@
 #include "hartframe/PendingFile.h"
 
+#include "hartframe/EscapedText.h"
 #include "hartframe/ExitCode.h"
 #include "platform/TextFile.h"
 #include "types/Utf8.h"
@@ -7,34 +8,6 @@
 namespace hartframe {
 
 namespace {
-
-std::string Escaped(std::string_view value) {
-  std::string text;
-  for (const char c : value) {
-    if (c == '\\')
-      text += "\\\\";
-    else if (c == '\n')
-      text += "\\n";
-    else if (c == '\r')
-      text += "\\r";
-    else
-      text += c;
-  }
-  return text;
-}
-
-std::string Unescaped(std::string_view text) {
-  std::string value;
-  for (std::size_t i = 0; i < text.size(); ++i) {
-    if (text[i] != '\\' || i + 1 == text.size()) {
-      value += text[i];
-      continue;
-    }
-    const char c = text[++i];
-    value += c == 'n' ? '\n' : c == 'r' ? '\r' : c;
-  }
-  return value;
-}
 
 [[noreturn]] void RefuseLine(const std::filesystem::path& file, int line, const std::string& why) {
   throw CommandFailure(ExitCode::FileBroken, "\"" + file.string() + "\", line " +

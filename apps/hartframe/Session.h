@@ -20,6 +20,8 @@
 
 namespace hartframe {
 
+class KeptDataSet;
+
 // One DTM instance with what a frame gives it: a link to the device, controls, the language, the
 // user's rights. Ends the instance with its scope.
 class Session {
@@ -40,6 +42,9 @@ class Session {
   ErrorWatch& Errors() { return *errors_; }
   ViewControl& View() { return *view_; }
   const PendingFile& Pending() const { return pending_; }
+  // The data set on disk that the session works on; nullptr without --dataset.
+  KeptDataSet* Kept() const { return kept_.get(); }
+  void SetKept(std::shared_ptr<KeptDataSet> kept) { kept_ = std::move(kept); }
   const std::filesystem::path& PluginFile() const { return plugin_; }
 
   ZAFHartLib::CDDComponents& Components() { return *components_; }
@@ -90,6 +95,7 @@ class Session {
   std::shared_ptr<ErrorWatch> errors_;
   std::shared_ptr<ViewControl> view_;
   std::shared_ptr<ZAFHartLib::CDDComponents> components_;
+  std::shared_ptr<KeptDataSet> kept_;
 };
 
 }  // namespace hartframe

@@ -41,7 +41,8 @@ Loaded LoadDiscarding(Session& session) {
 }
 
 ExitCode RunUpload(Session& session) {
-  const std::vector<Change> pending = LoadPending(session);
+  std::vector<Change> pending = PendingChanges(session);
+  for (Change& change : LoadPending(session, pending)) pending.push_back(std::move(change));
   if (!MayDiscard(session, pending)) {
     session.Tell().Problem("uploadKept", session.Say()(Text::UploadKept));
     return session.Interrupted() ? ExitCode::Interrupted : ExitCode::NotAllowed;

@@ -60,7 +60,8 @@ std::vector<WriteResult> WriteWatch::Results() {
 
 WriteResult WriteWatch::ResultOf(const Meant& meant) {
   auto variable = session_.Variable(meant.definition);
-  if (!variable->Available() && !variable->ToBeWritten()) {
+  // One that is not valid would come back with a value in its place.
+  if (!variable->Available() && !variable->ToBeWritten() && variable->Validity()) {
     session_.Run([&] { variable = session_.Kernel().ReadVariable(meant.definition); });
   }
   WriteResult result{MakeRow(variable, session_.Say()),

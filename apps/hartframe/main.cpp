@@ -4,6 +4,7 @@
 #include "hartframe/JsonReport.h"
 #include "hartframe/PluginProbe.h"
 #include "hartframe/TextReport.h"
+#include "hartframe/dataset/WorkOnDataSet.h"
 #include "platform/Platform.h"
 
 namespace hartframe {
@@ -30,6 +31,8 @@ ExitCode RunCommand(Session& session) {
       return RunMethod(session);
     case CommandKind::Browse:
       return RunBrowse(session);
+    case CommandKind::Save:
+      return RunSave(session);
     case CommandKind::Info:
     case CommandKind::ProbePlugin:
       break;
@@ -41,7 +44,7 @@ ExitCode RunSession(const Options& options, Console& console, Speech& speech, Re
   try {
     Session session(options, console, speech, report);
     session.Open();
-    const ExitCode code = RunCommand(session);
+    const ExitCode code = RunOnDataSet(session, RunCommand);
     return Worse(code, session.TellFileErrors());
   } catch (const CommandFailure& failure) {
     report.Problem(NameOf(failure.Code()), failure.Description());

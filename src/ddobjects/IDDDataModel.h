@@ -115,6 +115,9 @@ class IKernelInformation {
   // Folder and file name of the DTM's component file; name the INI file and the DTM's settings.
   virtual std::string ComponentFolder() = 0;
   virtual std::string ComponentFileName() = 0;
+  // Counts up when a variable of the data model goes or changes its type, so that a data set that
+  // was saved with it is not taken for one of an older data model.
+  virtual std::int32_t DataModelVersion() { return 1; }
 };
 
 }  // namespace ZAFHartTypes

@@ -15,18 +15,24 @@ class KernelInformationBase : public platform::Object, public IKernelInformation
 
   // `folder` and `fileName` lead to the INI file and the optimisation data that the DTM ships with;
   // the file itself need not be there. The part of `fileName` before its first "." names the DTM's
-  // settings.
-  KernelInformationBase(std::filesystem::path folder, std::string fileName, StandardNames names)
-      : folder_(std::move(folder)), fileName_(std::move(fileName)), names_(names) {}
+  // settings. `dataModelVersion`: see IKernelInformation.
+  KernelInformationBase(std::filesystem::path folder, std::string fileName, StandardNames names,
+                        std::int32_t dataModelVersion = 1)
+      : folder_(std::move(folder)),
+        fileName_(std::move(fileName)),
+        names_(names),
+        dataModelVersion_(dataModelVersion) {}
 
   std::string StandardName(ZAFHartTypes::StandardName index) override;
   std::string ComponentFolder() override { return folder_.string(); }
   std::string ComponentFileName() override { return fileName_; }
+  std::int32_t DataModelVersion() override { return dataModelVersion_; }
 
  private:
   std::filesystem::path folder_;
   std::string fileName_;
   std::vector<std::pair<ZAFHartTypes::StandardName, std::string>> names_;
+  std::int32_t dataModelVersion_;
 };
 
 }  // namespace ZAFHartTypes::dtmkit

@@ -1,0 +1,55 @@
+#include "hartframe/Changes.h"
+#include "hartframe/Commands.h"
+#include "hartframe/DataSet.h"
+#include "hartframe/dataset/DataSetTexts.h"
+#include "hartframe/dataset/KeptDataSet.h"
+
+namespace hartframe {
+
+namespace {
+
+// Only a data set of the same DTM is replaced; anything else at that place is somebody's.
+void RequireReplaceable(Session& session, const DataSetFile& file) {
+  if (file.Exists()) KeptDataSet::RequireSameDtm(session, file, file.Load());
+}
+
+// Loads from the device; what waited to be written does so again afterwards. Nothing is saved of a
+// device that does not answer.
+ExitCode LoadForSaving(Session& session) {
+  std::vector<std::shared_ptr<ZAFHartTypes::Variable>> marked;
+  for (const auto& definition : PendingVariables(session))
+    marked.push_back(session.Variable(definition));
+  const Loaded loaded = LoadDataSet(session);
+  for (const auto& variable : marked) {
+    session.Database().WriteValue(variable->Definition(), variable->Value());
+    session.Database().SetVariableToBeWritten(variable->Definition(), true);
+  }
+  TellLoaded(session, loaded);
+  if (loaded.code == ExitCode::Communication || loaded.code == ExitCode::Interrupted)
+    throw CommandFailure(loaded.code, session.Say()(texts::kNotSaved));
+  return loaded.code;
+}
+
+}  // namespace
+
+ExitCode RunSave(Session& session) {
+  const DataSetFile file(session.Settings().saveFile, session.Say());
+  RequireReplaceable(session, file);
+  const std::vector<Change> changes = ParseChanges(session, session.Settings().changes);
+  const std::vector<Change> pending = LoadPending(session, changes);
+  ExitCode code = ExitCode::Ok;
+  if (session.Settings().noUpload)
+    session.Comm().SetEmulate(true);
+  else
+    code = LoadForSaving(session);
+  if (!ApplyPending(session, pending).empty()) code = Worse(code, ExitCode::ValueRefused);
+  ApplyChanges(session, changes);
+  KeptDataSet unnamed(session, {});
+  KeptDataSet& held = session.Kept() ? *session.Kept() : unnamed;
+  const std::size_t count = held.SaveTo(file);
+  session.Tell().Note("saved",
+                      session.Say()(texts::kSaved, {std::to_string(count), file.Path().string()}));
+  return code;
+}
+
+}  // namespace hartframe

@@ -1,0 +1,70 @@
+#include "hartframe/dataset/WorkOnDataSet.h"
+
+#include "hartframe/dataset/DataSetTexts.h"
+#include "hartframe/dataset/KeptDataSet.h"
+
+namespace hartframe {
+
+namespace {
+
+// How a command takes the data set on disk.
+struct Usage {
+  bool onlyLooks = false;   // needs the file, and leaves it alone
+  bool usesValues = false;  // works with the values of the file, not with those of the device
+  bool meetsDevice = true;
+};
+
+Usage UsageOf(const Options& options) {
+  switch (options.command) {
+    case CommandKind::List:
+      return {.onlyLooks = true, .usesValues = true, .meetsDevice = false};
+    case CommandKind::Info:
+      return {.onlyLooks = true};
+    case CommandKind::Download:
+      return {.usesValues = true};
+    case CommandKind::Save:
+      return {.usesValues = options.noUpload, .meetsDevice = !options.noUpload};
+    default:
+      return {};
+  }
+}
+
+void Open(Session& session, const Usage& usage) {
+  const auto kept = std::make_shared<KeptDataSet>(session, session.Settings().dataSetFile);
+  kept->Restore();
+  const std::string path = kept->Path().string();
+  if (kept->IsNew() && usage.onlyLooks)
+    throw CommandFailure(ExitCode::FileBroken, session.Say()(texts::kNoFile, {path}));
+  session.SetKept(kept);
+  if (kept->IsNew()) session.Tell().Note("newDataSet", session.Say()(texts::kNewDataSet, {path}));
+  if (!usage.usesValues) kept->ExpectReading();
+  if (usage.meetsDevice) kept->RequireSameDevice();
+}
+
+// The command's own end counts; that the file cannot be written is told besides.
+void KeepAfterFailure(Session& session) {
+  try {
+    session.Kept()->Keep();
+  } catch (const CommandFailure& failure) {
+    session.Tell().Problem(NameOf(failure.Code()), failure.Description());
+  }
+}
+
+}  // namespace
+
+ExitCode RunOnDataSet(Session& session, ExitCode (*command)(Session&)) {
+  if (session.Settings().dataSetFile.empty()) return command(session);
+  const Usage usage = UsageOf(session.Settings());
+  Open(session, usage);
+  if (usage.onlyLooks) return command(session);
+  try {
+    const ExitCode code = command(session);
+    session.Kept()->Keep();
+    return code;
+  } catch (const platform::Failure&) {
+    KeepAfterFailure(session);
+    throw;
+  }
+}
+
+}  // namespace hartframe
