@@ -12,6 +12,7 @@ using hartframe::browse::KeyCode;
 using Sees = ScriptedTerminal::Sees;
 using Hides = ScriptedTerminal::Hides;
 using Steps = ScriptedTerminal::Steps;
+using Now = ScriptedTerminal::Now;
 using Until = ScriptedTerminal::Until;
 using testing::HasSubstr;
 
@@ -20,13 +21,6 @@ const auto kEscape = Press(KeyCode::Escape);
 const auto kUp = Press(KeyCode::Up);
 const auto kDown = Press(KeyCode::Down);
 const auto kEnd = Press(KeyCode::End);
-
-Until Now(const std::function<void()>& action) {
-  return [action] {
-    action();
-    return true;
-  };
-}
 
 Steps operator+(Steps a, const Steps& b) {
   a.insert(a.end(), b.begin(), b.end());
@@ -101,7 +95,7 @@ TEST_F(Browse, ShowsLiveValuesInTheLanguageOfTheMoment) {
                           Sees{"Start > Temperature transmitter > Process variables"},
                           Sees{"live, read-only"},
                           Hides{"not read"},
-                          Now([&] { first = terminal_->Text(); }),
+                          Now{[&] { first = terminal_->Text(); }},
                           Until([&] { return terminal_->Text() != first; }),
                           Press(U'l'),
                           Sees{">English"},
@@ -188,11 +182,41 @@ TEST_F(Browse, AMethodTalksInDialogsAndCleansUpWhenItIsCancelled) {
              kEnter, Sees{"[Self test]"}});
 }
 
+TEST_F(Browse, AsksForBitsAndPasswordsInTheirOwnWay) {
+  using namespace ZAFHartTypes;
+  const auto bits = std::make_shared<Variable>("bits");
+  bits->EditTypeInfo().SetTypeCode(TypeCode::BitEnumerated);
+  bits->EditTypeInfo().SetSize(1);
+  bits->EditTypeInfo().SetBitItems(
+      std::make_shared<const BitList>(EnumList{{1, "One"}, {2, "Two"}, {4, "Four"}}));
+  bits->SetValue(5);
+  const auto password = std::make_shared<Variable>("password");
+  password->EditTypeInfo().SetTypeCode(TypeCode::Password);
+  password->EditTypeInfo().SetSize(4);
+  std::int32_t cancelled = 0;
+  const auto ask = [&](const std::shared_ptr<Variable>& variable) {
+    return Now{[this, variable, &cancelled] {
+      UserMessage message;
+      message.icon = MessageIcon::Input;
+      message.prompt = "What now?";
+      message.input = variable;
+      cancelled = session_->Gui().ShowUserMessage(message);
+    }};
+  };
+  Play(Steps{ask(bits), Sees{">[x] One\n [ ] Two\n [x] Four"}, Press(U' '), kDown, Press(U' '),
+             Sees{" [ ] One\n>[x] Two"}, kEnter, Hides{"What now?"}, ask(password)} +
+       Typed("12345") + Steps{Sees{"Allowed: at most 4 characters."}} + Typed("0815") +
+       Steps{Hides{"What now?"}, ask(bits), Sees{"What now?"}, kEscape, Hides{"What now?"}});
+  EXPECT_EQ(bits->Value(), Variant(6));
+  EXPECT_EQ(password->Value(), Variant("0815"));
+  EXPECT_EQ(cancelled, kMessageCancelled);
+}
+
 TEST_F(Browse, AMethodThatWaitsForTheDeviceIsCancelled) {
   options_.latencyMilliseconds = 3000;
   platform::Milliseconds start{};
   Play(kToTests + Steps{kEnd, kUp, kEnter, Sees{"Start it?"}, kDown, kEnter, Sees{"Busy"},
-                        Now([&] { start = clock_->Now(); }), kEscape,
+                        Now{[&] { start = clock_->Now(); }}, kEscape,
                         Sees{"\"Self test\" was aborted: cancelled by the user."}});
   EXPECT_LT(clock_->Now() - start, platform::Milliseconds(1000));
 }
@@ -201,12 +225,12 @@ TEST_F(Browse, WhoMayNotWriteSeesWhy) {
   options_.userLevel = ZAFHartTypes::UserLevel::Observer;
   Play(kToService +
        Steps{Sees{"read-only: observer"}, kEnter, Sees{"Service date: read-only: observer"}, kEnd,
-             kEnter, Hides{"Reset it?"}, Press(U'w'), Sees{"read-only: observer"}, Now([&] {
+             kEnter, Hides{"Reset it?"}, Press(U'w'), Sees{"read-only: observer"}, Now{[&] {
                session_->Database().WriteValue(
                    ZAFHartTypes::Definition::Define(ZAFHartTypes::internal_names::kDataSetLockState,
                                                     ZAFHartTypes::ObjectKind::Variable),
                    1);
-             }),
+             }},
              Press(U'?'), Sees{"Restarts the device"}, kEnter, Press(U'r'),
              Sees{"read-only: data set locked"}});
 }
@@ -246,14 +270,13 @@ TEST_F(Browse, DownloadKeepsTheChangesAndUploadAsksBeforeItLosesThem) {
 }
 
 TEST_F(Browse, ScrollsWhatIsTooLongAndSaysWhenTheWindowIsTooSmall) {
-  Play({Sees{"Offline parameters"}, kEnd, kEnter, Sees{"> Offline parameters"}, kEnd, Sees{">    "},
-        Now([&] {
-          terminal_->SetSize({20, 80});
-        }),
-        Press(KeyCode::Resize), Sees{"it needs 80 x 24"}, Now([&] {
-          terminal_->SetSize({40, 120});
-        }),
-        Press(KeyCode::Resize), Sees{"Offline parameters"}, Press(U'q')});
+  const auto resize = [this](int rows, int columns) {
+    return Steps{Now{[=, this] { terminal_->SetSize({rows, columns}); }}, Press(KeyCode::Resize)};
+  };
+  Play(Steps{Sees{"Offline parameters"}, kEnd, kEnter, Sees{"> Offline parameters"}, kEnd,
+             Sees{">    "}} +
+       resize(20, 80) + Steps{Sees{"it needs 80 x 24"}} + resize(40, 120) +
+       Steps{Sees{"Offline parameters"}, Press(U'q')});
 }
 
 // The real program on a real terminal.

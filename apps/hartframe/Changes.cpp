@@ -157,6 +157,12 @@ std::vector<Change> PendingChanges(Session& session) {
   return changes;
 }
 
+void GiveUpChange(Session& session, const Definition& variable) {
+  if (!session.Variable(variable)->ToBeWritten()) return;
+  session.Database().SetVariableToBeWritten(variable, false);
+  session.Database().SetVariableAvailable(variable, false);
+}
+
 void KeepPending(Session& session, const std::vector<Change>& notAccepted) {
   std::vector<VariableRow> rows;
   std::vector<PendingChange> marked;

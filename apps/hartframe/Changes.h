@@ -34,6 +34,8 @@ std::vector<Change> ApplyPending(Session& session, const std::vector<Change>& ch
 std::vector<ZAFHartTypes::Definition> PendingVariables(Session& session);
 // The same as changes that make them so again.
 std::vector<Change> PendingChanges(Session& session);
+// The variable is no longer to be written; its value is the device's again once it is read.
+void GiveUpChange(Session& session, const ZAFHartTypes::Definition& variable);
 // Tells what is still to be written, and keeps it for a later run together with `notAccepted`: in
 // the data set on disk, when the session works on one; what is not accepted, and all without one,
 // in the file of pending changes.

@@ -58,6 +58,8 @@ class Browser : public Base, public IFrame {
 
   // Why nothing can be changed; "" when it can.
   std::string WhyReadOnly();
+  // False tells why.
+  bool MayChange();
   std::string StatusLine();
   void Changed();
 

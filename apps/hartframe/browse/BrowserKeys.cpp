@@ -4,7 +4,6 @@
 #include "hartframe/Reading.h"
 #include "hartframe/browse/BrowseTexts.h"
 #include "hartframe/browse/Browser.h"
-#include "hartframe/browse/GivenUp.h"
 
 namespace hartframe::browse {
 
@@ -50,21 +49,15 @@ void Browser::OnKey(const Key& key) {
 }
 
 void Browser::OnCharacter(char32_t key) {
-  const std::string why = WhyReadOnly();
-  const bool writes = key == U'w' || key == U'd';
-  if (writes && !why.empty()) {
-    screen_.Tell(Tone::Bad, why);
-    return;
-  }
   switch (key) {
     case U'w':
-      actions_.Write();
+      if (MayChange()) actions_.Write();
       break;
     case U'u':
       actions_.Upload();
       break;
     case U'd':
-      actions_.Download();
+      if (MayChange()) actions_.Download();
       break;
     case U'r':
       ReadAgain();
@@ -88,6 +81,12 @@ void Browser::OnCharacter(char32_t key) {
       break;
   }
   Changed();
+}
+
+bool Browser::MayChange() {
+  const std::string why = WhyReadOnly();
+  if (!why.empty()) screen_.Tell(Tone::Bad, why);
+  return why.empty();
 }
 
 bool Browser::WorkForUser(const std::function<void()>& operation,
@@ -124,11 +123,9 @@ void Browser::OpenSelected() {
 }
 
 void Browser::RunMethod(const Row& row) {
-  const std::string why = WhyReadOnly();
-  if (!row.view.valid || !why.empty()) {
-    screen_.Tell(
-        Tone::Bad,
-        row.view.valid ? why : session_.Say()(hartframe::texts::kMethodNotValid, {row.view.label}));
+  if (!MayChange()) return;
+  if (!row.view.valid) {
+    screen_.Tell(Tone::Bad, session_.Say()(hartframe::texts::kMethodNotValid, {row.view.label}));
     return;
   }
   MethodWatch watch(session_.Components());
@@ -199,7 +196,7 @@ void Browser::Quit() {
          file.empty() ? say(texts::kLoseAndQuit) : say(texts::kKeepAndQuit, {file})},
         0);
     if (!screen_.Run(dialog) || dialog.Selected() == 0) return;
-    if (dialog.Selected() == 1 && !actions_.Write()) return;
+    if (dialog.Selected() == 1 && !(MayChange() && actions_.Write())) return;
   }
   isLeaving_ = true;
 }

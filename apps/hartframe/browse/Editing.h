@@ -34,7 +34,7 @@ class Editing {
   std::string refusal_;
 };
 
-// Why the row's variable cannot be edited; "" when it can.
+// Why the row's variable cannot be edited; "" when it can. `why`: why nothing can be changed.
 std::string WhyNotEditable(const Row& row, const std::string& why, const Speech& speech);
 
 }  // namespace hartframe::browse

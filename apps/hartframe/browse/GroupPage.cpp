@@ -1,7 +1,7 @@
 #include "hartframe/browse/GroupPage.h"
 
+#include "hartframe/Changes.h"
 #include "hartframe/browse/BrowseTexts.h"
-#include "hartframe/browse/GivenUp.h"
 
 namespace hartframe::browse {
 

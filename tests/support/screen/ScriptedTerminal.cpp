@@ -68,9 +68,12 @@ bool ScriptedTerminal::Do(const Step& step) {
     if (!(*until)()) return false;
     steps_.pop_front();
   } else {
-    const Key key = std::get<Key>(step);
-    steps_.pop_front();  // the key may open a dialog, and with it the next steps
-    target_->OnKey(key);
+    const Step taken = step;
+    steps_.pop_front();  // it may open a dialog, and with it come to the next steps
+    if (const auto* key = std::get_if<Key>(&taken))
+      target_->OnKey(*key);
+    else
+      std::get<Now>(taken).action();
   }
   return true;
 }

@@ -23,7 +23,11 @@ class ScriptedTerminal : public hartframe::browse::Terminal, public platform::Ho
   };
   // Until the condition holds.
   using Until = std::function<bool()>;
-  using Step = std::variant<hartframe::browse::Key, Sees, Hides, Until>;
+  // Is done, and may wait itself.
+  struct Now {
+    std::function<void()> action;
+  };
+  using Step = std::variant<hartframe::browse::Key, Sees, Hides, Until, Now>;
   using Steps = std::vector<Step>;
 
   explicit ScriptedTerminal(platform::ManualClock& clock) : clock_(clock) {
