@@ -54,6 +54,8 @@ int SecondsUntil(platform::Milliseconds end) {
 Screen::Screen(Session& session, Terminal& terminal) : session_(session), terminal_(terminal) {
   session_.Terminal().SetScreen(this);
   session_.Signals().SetHandler([this] { OnBreak(); });
+  wantsBreak_ = session_.Interrupted();
+  session_.Signals().Resume();
 }
 
 Screen::~Screen() {
@@ -111,6 +113,8 @@ void Screen::DropTypedAhead() {
 }
 
 void Screen::OnIdle() {
+  if (IsWorking() && terminal_.IsGone() && !std::exchange(isEnding_, true))
+    session_.Signals().Interrupt();
   if (!IsBusy() && base_) {
     const Restored<bool> idling(isIdling_, true);
     Guarded([this] { base_->OnIdle(); });

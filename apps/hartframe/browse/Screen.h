@@ -106,6 +106,7 @@ class Screen : public ConsoleScreen {
   std::function<void()> onBreak_;
   bool wantsBreak_ = false;
   bool isIdling_ = false;
+  bool isEnding_ = false;  // what was under way was told that the terminal is gone
   bool isStale_ = true;
   platform::Milliseconds lastDrawn_{};
   std::string* transcript_ = nullptr;
