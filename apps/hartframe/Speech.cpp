@@ -2,7 +2,7 @@
 
 #include <iterator>
 
-#include "hartframe/DataSetTexts.h"
+#include "hartframe/OutcomeTexts.h"
 #include "hartframe/ValueTexts.h"
 #include "text/LangText.h"
 #include "types/Utf8.h"
@@ -13,10 +13,10 @@ namespace {
 
 // In the order of Text.
 const char* Multilingual(Text text) {
-  constexpr std::size_t kFirst = std::size(texts::kOfTheDataSet);
+  constexpr std::size_t kFirst = std::size(texts::kOfOutcomes);
   static_assert(kFirst + std::size(texts::kOfValues) == static_cast<std::size_t>(Text::Count));
   const auto index = static_cast<std::size_t>(text);
-  return index < kFirst ? texts::kOfTheDataSet[index] : texts::kOfValues[index - kFirst];
+  return index < kFirst ? texts::kOfOutcomes[index] : texts::kOfValues[index - kFirst];
 }
 
 bool IsArgument(std::string_view text, std::size_t at) {

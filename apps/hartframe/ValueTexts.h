@@ -2,7 +2,7 @@
 
 namespace hartframe::texts {
 
-// What is said about names, values and facts; in the order of Text, behind kOfTheDataSet.
+// What is said about names, values and facts; in the order of Text, behind kOfOutcomes.
 inline constexpr const char* kOfValues[] = {
     "The DTM has no variable \"{0}\"; \"hartframe list\" shows all.|de|Der DTM hat keine Variable "
     "\"{0}\"; \"hartframe list\" zeigt alle.|fr|Le DTM n'a pas de variable \"{0}\" ; \"hartframe "

@@ -4,6 +4,7 @@
 #include "hartframe/Reading.h"
 #include "hartframe/browse/BrowseTexts.h"
 #include "hartframe/browse/Browser.h"
+#include "hartframe/dataset/KeptDataSet.h"
 
 namespace hartframe::browse {
 
@@ -185,7 +186,8 @@ void Browser::ClosePage() {
 void Browser::Quit() {
   const Speech& say = session_.Say();
   if (actions_.Pending() > 0) {
-    const std::string file = session_.Pending().Path().string();
+    const std::string file =
+        (session_.Kept() ? session_.Kept()->Path() : session_.Pending().Path()).string();
     ChoiceDialog dialog(
         say,
         {DialogStyle::Question,

@@ -3,7 +3,7 @@
 namespace hartframe::texts {
 
 // What is said about the state of variables, and how loading and writing end; in the order of Text.
-inline constexpr const char* kOfTheDataSet[] = {
+inline constexpr const char* kOfOutcomes[] = {
     "Name|de|Name|fr|Nom|it|Nome|es|Nombre|kt|Namae",
     "Label|de|Bezeichnung|fr|Libellé|it|Etichetta|es|Etiqueta|kt|Raberu",
     "Value|de|Wert|fr|Valeur|it|Valore|es|Valor|kt|Atai",
