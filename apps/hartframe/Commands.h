@@ -17,5 +17,7 @@ ExitCode RunBrowse(Session& session);
 ExitCode RunMenu(Session& session);
 ExitCode RunMethod(Session& session);
 ExitCode RunSave(Session& session);
+ExitCode RunPair(Session& online);
+ExitCode RunCompare(Session& online);
 
 }  // namespace hartframe

@@ -17,6 +17,7 @@ struct Entry {
 // From the one that says least to the one that says most.
 constexpr std::array kEntries{
     Entry{ExitCode::Ok, "ok", "done"},
+    Entry{ExitCode::Different, "different", "the data set and the device differ"},
     Entry{ExitCode::Usage, "usage", "wrong arguments, or a name that the DTM does not have"},
     Entry{ExitCode::ValueRefused, "valueRefused", "a value was not accepted; nothing was written"},
     Entry{

@@ -20,6 +20,7 @@ enum class ExitCode {
   MethodAborted = 8,   // by the user, by a status of the device, or by itself
   AnswerRefused = 9,   // an answer to a method is missing or not accepted; it was aborted
   MethodFailed = 10,   // a failure ended the method
+  Different = 11,      // compare has found differences
   Internal = 70,       // a failure that should not be
   Interrupted = 130,   // Ctrl-C
 };

@@ -108,9 +108,9 @@ Json MenuRowsJson(std::span<const MenuRow> rows) {
 constexpr int kOneLine = -1;
 constexpr const char* kOutcomes[] = {"written",     "adjusted", "refused",
                                      "notAccepted", "noAnswer", "notAttempted"};
-constexpr const char* kCommands[] = {"upload", "download", "write", "read",
-                                     "list",   "watch",    "info",  "menu",
-                                     "run",    "browse",   "save",  "probe-plugin"};
+constexpr const char* kCommands[] = {"upload", "download", "write",   "read",        "list",
+                                     "watch",  "info",     "menu",    "run",         "browse",
+                                     "save",   "pair",     "compare", "probe-plugin"};
 
 }  // namespace
 
@@ -164,6 +164,18 @@ void JsonReport::WriteResults(std::span<const WriteResult> results) {
     json.push_back(std::move(entry));
   }
   document_["writes"] = std::move(json);
+}
+
+void JsonReport::Comparison(std::span<const ComparedRow> rows) {
+  Json json = Json::array();
+  for (const ComparedRow& row : rows) {
+    json.push_back({{"name", row.offline.name},
+                    {"match", NameOf(row.match)},
+                    {"toBeWritten", row.offline.variable->ToBeWritten()},
+                    {"offline", RowJson(row.offline)},
+                    {"online", RowJson(row.online)}});
+  }
+  document_["comparison"] = std::move(json);
 }
 
 void JsonReport::Pending(std::span<const VariableRow> rows) {

@@ -23,6 +23,7 @@ class JsonReport : public Report {
   void Variables(std::span<const VariableRow> rows) override;
   void Update(const VariableRow& row) override;
   void WriteResults(std::span<const WriteResult> results) override;
+  void Comparison(std::span<const ComparedRow> rows) override;
   void Pending(std::span<const VariableRow> rows) override;
   void Facts(std::string_view section, const std::string& title,
              std::span<const Fact> facts) override;

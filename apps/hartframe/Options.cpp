@@ -114,6 +114,35 @@ class CommandAdder {
   Options& options_;
 };
 
+void AddDataSetCommands(CommandAdder& adder, Options& options) {
+  CLI::App& save = adder.Add(CommandKind::Save, "save",
+                             "Load the data set from the device, with changes if given, and save "
+                             "it in a file");
+  save.add_option("file", options.saveFile, "The data set file, which is made or replaced")
+      ->required()
+      ->type_name("FILE");
+  save.add_option("changes", options.changes, "Changes to make, to be written later")
+      ->type_name("NAME=VALUE");
+  save.add_flag("--no-upload", options.noUpload,
+                "Save what there is without the device: the DTM's defaults, or the --dataset");
+
+  CLI::App& pair = adder.Add(CommandKind::Pair, "pair",
+                             "Change the --dataset and bring it and the device together");
+  pair.add_option("changes", options.changes, "Changes to make in the data set")
+      ->type_name("NAME=VALUE");
+  CLI::Option* const uploads = pair.add_flag("--upload", options.uploadPair,
+                                             "First load the device's values into the data set");
+  pair.add_flag("--download", options.downloadPair, "Then write what differs to the device")
+      ->excludes(uploads);
+  pair.add_flag("--discard", options.discard, "Give up pending changes without asking");
+
+  CLI::App& compare = adder.Add(CommandKind::Compare, "compare",
+                                "Compare the --dataset with the device, variable by variable");
+  compare.add_option("names", options.names, "Only these; * and ? stand for other characters")
+      ->type_name("NAME");
+  compare.add_flag("--differences", options.differencesOnly, "Only what differs");
+}
+
 void AddCommands(CommandAdder& adder, Options& options) {
   CLI::App& upload = adder.Add(CommandKind::Upload, "upload", "Load the data set from the device");
   upload.add_flag("--discard", options.discard, "Give up pending changes without asking");
@@ -172,17 +201,6 @@ void AddCommands(CommandAdder& adder, Options& options) {
       ->allow_extra_args(false);
   run.add_flag("--yes", options.yes, "Acknowledge what only informs, without an --answer for it");
 
-  CLI::App& save = adder.Add(CommandKind::Save, "save",
-                             "Load the data set from the device, with changes if given, and save "
-                             "it in a file");
-  save.add_option("file", options.saveFile, "The data set file, which is made or replaced")
-      ->required()
-      ->type_name("FILE");
-  save.add_option("changes", options.changes, "Changes to make, to be written later")
-      ->type_name("NAME=VALUE");
-  save.add_flag("--no-upload", options.noUpload,
-                "Save what there is without the device: the DTM's defaults, or the --dataset");
-
   adder.Add(CommandKind::Browse, "browse", "Work with the DTM's menus on a screen");
 
   // The program runs itself with this, to see whether a plug-in can be loaded at all.
@@ -211,6 +229,9 @@ void Complete(Parsed& parsed) {
   if (options.dtm.empty() && options.command != CommandKind::ProbePlugin) {
     throw CLI::RequiredError("--dtm");
   }
+  const bool isPair =
+      options.command == CommandKind::Pair || options.command == CommandKind::Compare;
+  if (isPair && options.dataSetFile.empty()) throw CLI::RequiredError("--dataset");
   if (options.command == CommandKind::Browse) CheckBrowse(options);
   if (options.traceDepth == 0) options.traceDepth = options.trace.value_or(1);
 }
@@ -243,6 +264,7 @@ Options ParseCommandLine(int argc, char** argv) {
   AddOutputOptions(app, parsed);
   CommandAdder adder(app, parsed.options);
   AddCommands(adder, parsed.options);
+  AddDataSetCommands(adder, parsed.options);
   try {
     app.parse(argc, argv);
     Complete(parsed);

@@ -21,6 +21,8 @@ enum class CommandKind {
   Run,
   Browse,
   Save,
+  Pair,
+  Compare,
   ProbePlugin
 };
 enum class LinkKind { Echo, Device };
@@ -43,6 +45,9 @@ struct Options {
   ZAFHartTypes::UserLevel userLevel = ZAFHartTypes::UserLevel::PlanningEngineer;
   bool discard = false;
   std::filesystem::path saveFile;  // of save
+  bool uploadPair = false;         // pair: from the device to the data set
+  bool downloadPair = false;       // pair: from the data set to the device
+  bool differencesOnly = false;    // of compare
   bool noUpload = false;           // save: what the data set holds as it is
 
   std::optional<int> trace;  // highest level of trace lines; nothing: no tracing

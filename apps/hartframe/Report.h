@@ -8,6 +8,7 @@
 #include "hartframe/ExitCode.h"
 #include "hartframe/MenuView.h"
 #include "hartframe/VariableRow.h"
+#include "hartframe/dataset/Comparison.h"
 #include "interfaces/IDDDTMGUI.h"
 
 namespace hartframe {
@@ -46,6 +47,8 @@ class Report {
   // One update of a watched variable.
   virtual void Update(const VariableRow& row) = 0;
   virtual void WriteResults(std::span<const WriteResult> results) = 0;
+  // Both sides of a pair, variable by variable.
+  virtual void Comparison(std::span<const ComparedRow> rows) = 0;
   // Changes that are still to be written.
   virtual void Pending(std::span<const VariableRow> rows) = 0;
   // `section` names the group for machines, `title` for people.

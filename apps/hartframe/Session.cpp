@@ -24,8 +24,10 @@ using ZAFHartTypes::ObjectKind;
 using ZAFHartTypes::Variant;
 namespace names = ZAFHartTypes::internal_names;
 
-std::filesystem::path PendingPath(const Options& options) {
+// In a pair the changes are the offline side's.
+std::filesystem::path PendingPath(const Options& options, bool isOffline) {
   if (options.deviceFile.empty()) return {};
+  if (!isOffline && options.command == CommandKind::Pair) return {};
   return std::filesystem::path(options.deviceFile.string() + ".pending");
 }
 
@@ -42,26 +44,41 @@ Session::Session(const Options& options, Console& console, Speech& speech, Repor
       console_(console),
       speech_(speech),
       report_(report),
-      pending_(PendingPath(options)) {}
+      pending_(PendingPath(options, false)),
+      signals_(std::make_shared<SignalWatch>()),
+      isOffline_(false) {}
+
+Session::Session(const Session& online, const Options& options)
+    : options_(options),
+      console_(online.console_),
+      speech_(online.speech_),
+      report_(online.report_),
+      pending_(PendingPath(options, true)),
+      signals_(online.signals_),
+      isOffline_(true) {}
 
 Session::~Session() {
   if (components_) components_->PrepareTermination();
 }
 
 void Session::Open() {
+  if (!isOffline_) PrepareClasses();
   LoadDtm();
   RegisterControls();
   Connect();
   SetSessionVariables();
 }
 
-void Session::LoadDtm() {
+void Session::PrepareClasses() {
   auto& classes = platform::Current().Classes();
   ZAFHartLib::RegisterLibraryClasses(classes);
   if (options_.trace) ConsoleTracer::Connect(console_, options_);
   classes.SetPluginPath(options_.pluginPath);
   plugin_ = classes.FindPlugin(options_.dtm);
   if (!plugin_.empty()) ProbePlugin(plugin_);
+}
+
+void Session::LoadDtm() {
   components_ = ZAFHartLib::CDDComponents::Create();
   components_->SetDataModelClass(options_.dtm + ".DataModel");
   components_->SetCommWrapperClass("ZAFHartLib.CDDTestCommWrapper");
@@ -79,18 +96,19 @@ void Session::RegisterControls() {
   gui.SetLanguageID(speech_.Language());
   errors_ = std::make_shared<ErrorWatch>();
   gui.SetErrorHandler(errors_);
-  gui.SetMessageControl(std::make_shared<MessageControl>(report_, console_, speech_, signals_));
-  view_ = std::make_shared<ViewControl>(console_, speech_, signals_);
+  gui.SetMessageControl(std::make_shared<MessageControl>(report_, console_, speech_, *signals_));
+  view_ = std::make_shared<ViewControl>(console_, speech_, *signals_);
   view_->SetComponentModel(components_);
   gui.RegisterCtrl(view_);
-  SetInterruptHandler();
+  if (!isOffline_) SetInterruptHandler();
 }
 
 void Session::SetInterruptHandler() {
-  signals_.SetHandler([this] { components_->CancelOperation(); });
+  signals_->SetHandler([this] { components_->CancelOperation(); });
 }
 
 void Session::Connect() {
+  if (isOffline_) return Comm().SetEmulate(true);
   link_ = MakeLink(options_);
   const auto user = std::dynamic_pointer_cast<ZAFHartTypes::ILinkUser>(components_->HARTComm());
   Require(user).SetLink(link_);
@@ -101,14 +119,16 @@ void Session::Connect() {
 }
 
 void Session::SetSessionVariables() {
-  constexpr std::int32_t kOnline = 7;  // of "__ZAF__FDTDTMState"
+  // Of "__ZAF__FDTDTMState".
+  constexpr std::int32_t kRunning = 4;
+  constexpr std::int32_t kOnline = 7;
   const auto set = [this](std::string_view name, const Variant& value) {
     Database().WriteValue(Definition::Define(name, ObjectKind::Variable), value);
   };
   set(names::kFDTUserLevel, static_cast<std::int16_t>(options_.userLevel));
   const char* user = std::getenv("USER");
   set("__ZAF__FDTUserName", user ? user : "");
-  set("__ZAF__FDTDTMState", kOnline);
+  set("__ZAF__FDTDTMState", isOffline_ ? kRunning : kOnline);
 }
 
 ZAFHartTypes::IDDKernel& Session::Kernel() {
@@ -184,7 +204,7 @@ std::vector<Definition> Session::FindAll(const std::vector<std::string>& pattern
 
 bool Session::Run(const std::function<void()>& operation,
                   const std::function<void()>& onInterrupt) {
-  signals_.SetHandler(onInterrupt);
+  signals_->SetHandler(onInterrupt);
   const std::shared_ptr<void> restored(nullptr, [this](void*) { SetInterruptHandler(); });
   return Run(operation);
 }
@@ -199,7 +219,7 @@ ExitCode Session::TellFileErrors() {
 
 bool Session::Run(const std::function<void()>& operation) {
   try {
-    signals_.Check();
+    signals_->Check();
     if (!Interrupted()) operation();
   } catch (const Failure& failure) {
     if (failure.Number() != ErrorNumber::Cancelled) throw;

@@ -27,6 +27,9 @@ class KeptDataSet;
 class Session {
  public:
   Session(const Options& options, Console& console, Speech& speech, Report& report);
+  // The offline data set beside `online`, which outlives it: an instance of the same DTM without a
+  // device, with the defaults as values. It has the changes that the device's file keeps.
+  Session(const Session& online, const Options& options);
   ~Session();
   Session(const Session&) = delete;
   Session& operator=(const Session&) = delete;
@@ -70,14 +73,15 @@ class Session {
   bool Run(const std::function<void()>& operation);
   // The same, with something else to be done about Ctrl-C.
   bool Run(const std::function<void()>& operation, const std::function<void()>& onInterrupt);
-  bool Interrupted() const { return signals_.Interrupted(); }
-  SignalWatch& Signals() { return signals_; }
+  bool Interrupted() const { return signals_->Interrupted(); }
+  SignalWatch& Signals() { return *signals_; }
   // Speaks another language from now on: "en", "de", "fr", "it", "es" or "kt".
   void SetLanguage(const std::string& language);
   // What the emulated device could not do with its file; tells each.
   ExitCode TellFileErrors();
 
  private:
+  void PrepareClasses();
   void LoadDtm();
   void Connect();
   void RegisterControls();
@@ -89,7 +93,8 @@ class Session {
   Speech& speech_;
   Report& report_;
   PendingFile pending_;
-  SignalWatch signals_;
+  std::shared_ptr<SignalWatch> signals_;  // shared by both sides of a pair
+  const bool isOffline_;
   std::filesystem::path plugin_;
   std::shared_ptr<HartLinkSim::SimulatedLink> link_;
   std::shared_ptr<ErrorWatch> errors_;

@@ -4,6 +4,7 @@
 #include <ctime>
 
 #include "hartframe/MenuTexts.h"
+#include "hartframe/dataset/PairTexts.h"
 #include "platform/Platform.h"
 #include "types/Utf8.h"
 
@@ -53,6 +54,10 @@ std::vector<std::string> MenuCells(const MenuRow& row, const char* indent, const
           row.variable ? row.variable->unit : "",
           KindText(row.kind, speech),
           StateText(row, speech)};
+}
+
+std::string ValueWithUnit(const VariableRow& row) {
+  return row.unit.empty() || row.value.empty() ? row.value : row.value + ' ' + row.unit;
 }
 
 }  // namespace
@@ -108,6 +113,20 @@ void TextReport::WriteResults(std::span<const WriteResult> results) {
   console_.Table({speech_(Text::ColumnName), speech_(Text::ColumnLabel), speech_(Text::ColumnValue),
                   speech_(Text::ColumnState)},
                  cells);
+}
+
+void TextReport::Comparison(std::span<const ComparedRow> rows) {
+  std::vector<std::vector<std::string>> cells;
+  for (const ComparedRow& row : rows) {
+    cells.push_back({std::string(SignOf(row.match)), row.offline.name, row.offline.label,
+                     ValueWithUnit(row.offline), ValueWithUnit(row.online),
+                     StateText(row, speech_)});
+  }
+  if (cells.empty()) return;
+  console_.Table(
+      {"", speech_(Text::ColumnName), speech_(Text::ColumnLabel), speech_(texts::kColumnDataSet),
+       speech_(texts::kColumnDevice), speech_(Text::ColumnState)},
+      cells);
 }
 
 void TextReport::Pending(std::span<const VariableRow> rows) {

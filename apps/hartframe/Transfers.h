@@ -4,6 +4,7 @@
 
 #include "hartframe/Changes.h"
 #include "hartframe/DataSet.h"
+#include "hartframe/WriteWatch.h"
 
 namespace hartframe {
 
@@ -12,6 +13,15 @@ namespace hartframe {
 
 // Loads the data set; what was to be written is given up.
 Loaded LoadDiscarding(Session& session);
+// An upload gives up what is still to be written: only when the user says so. Tells when not.
+bool MayDiscard(Session& session, const std::vector<Change>& pending);
+// Writes all variables that are to be written, and tells the outcomes. What is left is kept
+// nowhere.
+struct Written {
+  std::vector<WriteResult> results;
+  bool finished = true;  // no Ctrl-C
+};
+Written WriteMarked(Session& session);
 // Writes all variables that are to be written. `notAccepted`: changes of earlier runs that could
 // not be made, and stay as they are.
 ExitCode WriteAndTell(Session& session, const std::vector<Change>& notAccepted);

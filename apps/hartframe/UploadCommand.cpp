@@ -20,8 +20,7 @@ bool IsYes(std::string_view answer, const Speech& say) {
          (ZAFHartTypes::SameKey(answer, yes) || ZAFHartTypes::SameKey(answer, yes.substr(0, 1)));
 }
 
-// An upload gives up what is still to be written: only when the user says so.
-bool MayDiscard(Session& session, const std::vector<Change>& pending) {
+bool UserDiscards(Session& session, const std::vector<Change>& pending) {
   if (pending.empty() || session.Settings().discard) return true;
   const Speech& say = session.Say();
   if (!session.Terminal().CanAsk()) {
@@ -34,6 +33,12 @@ bool MayDiscard(Session& session, const std::vector<Change>& pending) {
 
 }  // namespace
 
+bool MayDiscard(Session& session, const std::vector<Change>& pending) {
+  if (UserDiscards(session, pending)) return true;
+  session.Tell().Problem("uploadKept", session.Say()(Text::UploadKept));
+  return false;
+}
+
 Loaded LoadDiscarding(Session& session) {
   Loaded loaded = LoadDataSet(session);
   session.Pending().Save({});
@@ -43,10 +48,8 @@ Loaded LoadDiscarding(Session& session) {
 ExitCode RunUpload(Session& session) {
   std::vector<Change> pending = PendingChanges(session);
   for (Change& change : LoadPending(session, pending)) pending.push_back(std::move(change));
-  if (!MayDiscard(session, pending)) {
-    session.Tell().Problem("uploadKept", session.Say()(Text::UploadKept));
+  if (!MayDiscard(session, pending))
     return session.Interrupted() ? ExitCode::Interrupted : ExitCode::NotAllowed;
-  }
   const Loaded loaded = LoadDiscarding(session);
   session.Tell().Variables(loaded.rows);
   TellLoaded(session, loaded);

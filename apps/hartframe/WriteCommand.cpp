@@ -18,23 +18,29 @@ void TellWritten(Session& session, const std::vector<WriteResult>& results) {
 
 }  // namespace
 
+Written WriteMarked(Session& session) {
+  Written written;
+  WriteWatch watch(session, PendingVariables(session));
+  written.finished = session.Run([&] { session.Components().WriteChanges(); });
+  written.results = watch.Results();
+  watch.RestoreUnanswered(written.results);
+  TellWritten(session, written.results);
+  return written;
+}
+
 ExitCode WriteAndTell(Session& session, const std::vector<Change>& notAccepted) {
-  const std::vector<ZAFHartTypes::Definition> variables = PendingVariables(session);
-  if (variables.empty()) {
+  if (PendingVariables(session).empty()) {
     session.Tell().Note("nothingToWrite", session.Say()(Text::NothingToWrite));
     return notAccepted.empty() ? ExitCode::Ok : ExitCode::ValueRefused;
   }
-  WriteWatch watch(session, variables);
-  const bool finished = session.Run([&] { session.Components().WriteChanges(); });
-  const std::vector<WriteResult> results = watch.Results();
-  watch.RestoreUnanswered(results);
-  TellWritten(session, results);
+  const Written written = WriteMarked(session);
   KeepPending(session, notAccepted);
-  if (!finished) {
+  if (!written.finished) {
     session.Tell().Problem("interrupted", session.Say()(Text::Interrupted));
     return ExitCode::Interrupted;
   }
-  return Worse(ExitCodeOf(results), notAccepted.empty() ? ExitCode::Ok : ExitCode::ValueRefused);
+  return Worse(ExitCodeOf(written.results),
+               notAccepted.empty() ? ExitCode::Ok : ExitCode::ValueRefused);
 }
 
 ExitCode RunWrite(Session& session) {

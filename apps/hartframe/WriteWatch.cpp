@@ -16,13 +16,20 @@ std::string WithoutTrailingBlanks(std::string text) {
   return text;
 }
 
-// The two are one value for a device: a float has 32 bits on the wire, integers are signed or not,
-// texts are padded with blanks, and Packed ASCII has capitals only.
+// The value is the device's: it was read back, whatever the write before it came to.
+bool IsKnown(const Variable& variable) {
+  constexpr auto kWriteFailed = static_cast<std::int32_t>(ZAFHartTypes::ItemIndex::CannotWrite);
+  return variable.Available() && !variable.ToBeWritten() &&
+         (variable.ErrorIndex() == 0 || variable.ErrorIndex() == kWriteFailed);
+}
+
+}  // namespace
+
 bool SameOnTheWire(const Variant& a, const Variant& b, TypeCode code) {
   bool same = false;
   ZAFHartTypes::IgnoreFailures([&] {
     if (code == TypeCode::Float) {
-      same = a.ToSingle() == b.ToSingle();
+      same = a.ToSingle() == b.ToSingle() || (a.IsNotFinite() && b.IsNotFinite());
     } else if (IsText(code)) {
       const std::string textA = WithoutTrailingBlanks(a.ToText());
       const std::string textB = WithoutTrailingBlanks(b.ToText());
@@ -35,15 +42,6 @@ bool SameOnTheWire(const Variant& a, const Variant& b, TypeCode code) {
   });
   return same;
 }
-
-// The value is the device's: it was read back, whatever the write before it came to.
-bool IsKnown(const Variable& variable) {
-  constexpr auto kWriteFailed = static_cast<std::int32_t>(ZAFHartTypes::ItemIndex::CannotWrite);
-  return variable.Available() && !variable.ToBeWritten() &&
-         (variable.ErrorIndex() == 0 || variable.ErrorIndex() == kWriteFailed);
-}
-
-}  // namespace
 
 WriteWatch::WriteWatch(Session& session, const std::vector<Definition>& variables)
     : session_(session) {

@@ -29,6 +29,11 @@ class WriteWatch {
   std::vector<Meant> meant_;
 };
 
+// The two are one value for a device: a float has 32 bits on the wire (what is none is one whatever
+// its bits), integers are signed or not, texts are padded with blanks, and Packed ASCII has
+// capitals only.
+bool SameOnTheWire(const ZAFHartTypes::Variant& a, const ZAFHartTypes::Variant& b,
+                   ZAFHartTypes::TypeCode code);
 // What a script learns from the outcomes.
 ExitCode ExitCodeOf(const std::vector<WriteResult>& results);
 

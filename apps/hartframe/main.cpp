@@ -33,6 +33,10 @@ ExitCode RunCommand(Session& session) {
       return RunBrowse(session);
     case CommandKind::Save:
       return RunSave(session);
+    case CommandKind::Pair:
+      return RunPair(session);
+    case CommandKind::Compare:
+      return RunCompare(session);
     case CommandKind::Info:
     case CommandKind::ProbePlugin:
       break;

@@ -91,6 +91,20 @@ bool Differ(const std::optional<std::int32_t>& a, const std::optional<std::int32
   return a && b && *a != *b;
 }
 
+// What the connected device tells; nothing when it does not answer, or the DTM has no such
+// variable.
+std::optional<std::int32_t> AskDevice(Session& online, std::string_view name) {
+  const Definition definition = VariableNamed(name);
+  if (!Stored(online, definition)) return std::nullopt;
+  online.Database().SetVariableAvailable(definition, false);
+  std::shared_ptr<Variable> variable;
+  online.Run([&] { variable = online.Kernel().ReadVariable(definition); });
+  const bool isKnown = variable && variable->Available() && TroubleOf(*variable) == Trouble::None &&
+                       variable->Value().IsNumber();
+  if (!isKnown) return std::nullopt;
+  return variable->Value().ToLong();
+}
+
 }  // namespace
 
 KeptDataSet::KeptDataSet(Session& session, std::filesystem::path path)
@@ -100,7 +114,9 @@ void KeptDataSet::Restore() {
   if (!file_.Exists()) return;
   StoredDataSet dataSet = file_.Load();
   RequireSameDtm(session_, file_, dataSet);
-  for (const Restored& restored : Resolve(dataSet)) Apply(restored);
+  const std::vector<Restored> all = Resolve(dataSet);
+  for (const Restored& restored : all) Apply(restored);
+  SettleUnits(all);
   loaded_ = std::move(dataSet);
 }
 
@@ -163,6 +179,20 @@ void KeptDataSet::Apply(const Restored& restored) {
     available_.emplace(restored.definition.Key(), stored.value);
 }
 
+// The values have the units of the file: a change of a unit from now on converts from these.
+void KeptDataSet::SettleUnits(const std::vector<Restored>& all) {
+  for (const Restored& restored : all) {
+    const auto variable = Stored(session_, restored.definition);
+    if (!variable->UnitSource()) continue;
+    variable->SetUnitText(session_.Variable(restored.definition)->UnitText());
+    session_.Database().WriteObject(variable);
+  }
+  for (const auto& object : session_.Database().NewEnum()) {
+    if (object->Kind() == ObjectKind::UnitRelation)
+      session_.Kernel().ExecuteUnit(object->ObjectDefinition(), {});
+  }
+}
+
 void KeptDataSet::ExpectReading() {
   constexpr std::int32_t kNoRefresh = 0;
   const auto setting = session_.Variable(VariableNamed(names::kRefreshOnConnect));
@@ -174,20 +204,11 @@ void KeptDataSet::ExpectReading() {
   }
 }
 
-void KeptDataSet::RequireSameDevice() {
+void KeptDataSet::RequireSameDevice(Session& online) {
   if (!loaded_) return;
-  const auto ask = [this](std::string_view name) -> std::optional<std::int32_t> {
-    const Definition definition = VariableNamed(name);
-    if (!Stored(session_, definition)) return std::nullopt;
-    session_.Database().SetVariableAvailable(definition, false);
-    std::shared_ptr<Variable> variable;
-    session_.Run([&] { variable = session_.Kernel().ReadVariable(definition); });
-    if (!variable || !variable->Available()) return std::nullopt;
-    return variable->Value().ToLong();
-  };
   const DtmIdentity& own = loaded_->dtm;
-  const auto manufacturer = ask(kManufacturer);
-  const auto deviceType = ask(kDeviceType);
+  const auto manufacturer = AskDevice(online, kManufacturer);
+  const auto deviceType = AskDevice(online, kDeviceType);
   if (!Differ(own.manufacturer, manufacturer) && !Differ(own.deviceType, deviceType)) return;
   isAbandoned_ = true;
   throw CommandFailure(

@@ -26,9 +26,9 @@ class KeptDataSet {
   // The connected device is not the one that the values were taken from: those that are not to be
   // written are to be read again. Values that nobody reads keep their mark in the file.
   void ExpectReading();
-  // The values of the device type in the file go with no other: CommandFailure (NotAllowed), and
-  // the file stays as it is. A device that does not answer passes.
-  void RequireSameDevice();
+  // The values of the device type in the file go with no other than the one connected to `online`:
+  // CommandFailure (NotAllowed), and the file stays as it is. A device that does not answer passes.
+  void RequireSameDevice(Session& online);
   // Writes the file when something has changed. CommandFailure (FileBroken).
   void Keep();
   // Writes the same to another file; the number of variables.
@@ -44,6 +44,7 @@ class KeptDataSet {
   };
   std::vector<Restored> Resolve(const StoredDataSet& dataSet) const;
   void Apply(const Restored& restored);
+  void SettleUnits(const std::vector<Restored>& all);
   void RefuseType(const StoredVariable& stored, const ZAFHartTypes::Variable& variable) const;
 
   StoredDataSet Current();

@@ -38,33 +38,37 @@ void Open(Session& session, const Usage& usage) {
   session.SetKept(kept);
   if (kept->IsNew()) session.Tell().Note("newDataSet", session.Say()(texts::kNewDataSet, {path}));
   if (!usage.usesValues) kept->ExpectReading();
-  if (usage.meetsDevice) kept->RequireSameDevice();
-}
-
-// The command's own end counts; that the file cannot be written is told besides.
-void KeepAfterFailure(Session& session) {
-  try {
-    session.Kept()->Keep();
-  } catch (const CommandFailure& failure) {
-    session.Tell().Problem(NameOf(failure.Code()), failure.Description());
-  }
+  if (usage.meetsDevice) kept->RequireSameDevice(session);
 }
 
 }  // namespace
 
-ExitCode RunOnDataSet(Session& session, ExitCode (*command)(Session&)) {
-  if (session.Settings().dataSetFile.empty()) return command(session);
-  const Usage usage = UsageOf(session.Settings());
-  Open(session, usage);
-  if (usage.onlyLooks) return command(session);
+ExitCode RunKeeping(KeptDataSet& dataSet, Report& report,
+                    const std::function<ExitCode()>& operation) {
   try {
-    const ExitCode code = command(session);
-    session.Kept()->Keep();
+    const ExitCode code = operation();
+    dataSet.Keep();
     return code;
   } catch (const platform::Failure&) {
-    KeepAfterFailure(session);
+    // The operation's own end counts; that the file cannot be written is told besides.
+    try {
+      dataSet.Keep();
+    } catch (const CommandFailure& failure) {
+      report.Problem(NameOf(failure.Code()), failure.Description());
+    }
     throw;
   }
+}
+
+ExitCode RunOnDataSet(Session& session, ExitCode (*command)(Session&)) {
+  const Options& options = session.Settings();
+  const bool opensItself =
+      options.command == CommandKind::Pair || options.command == CommandKind::Compare;
+  if (options.dataSetFile.empty() || opensItself) return command(session);
+  const Usage usage = UsageOf(options);
+  Open(session, usage);
+  if (usage.onlyLooks) return command(session);
+  return RunKeeping(*session.Kept(), session.Tell(), [&] { return command(session); });
 }
 
 }  // namespace hartframe

@@ -1,0 +1,74 @@
+#include "hartframe/dataset/Comparison.h"
+
+#include "hartframe/WriteWatch.h"
+#include "hartframe/dataset/PairTexts.h"
+
+namespace hartframe {
+
+namespace {
+
+using ZAFHartTypes::Variable;
+
+struct MatchWords {
+  std::string_view sign;
+  std::string_view name;
+  const char* text;
+};
+
+// In the order of Match.
+constexpr MatchWords kWords[] = {{"=", "equal", texts::kEqual},
+                                 {"≠", "differs", texts::kDiffers},
+                                 {"<", "onlyOffline", texts::kOnlyOffline},
+                                 {">", "onlyOnline", texts::kOnlyOnline},
+                                 {"-", "notValid", texts::kNotValid},
+                                 {"?", "noValue", texts::kNoValueYet}};
+
+const MatchWords& WordsOf(Match match) {
+  return kWords[static_cast<std::size_t>(match)];
+}
+
+bool HasValue(const Variable& variable) {
+  return variable.Validity() && (variable.Available() || variable.ToBeWritten()) &&
+         TroubleOf(variable) == Trouble::None;
+}
+
+Match MatchOf(const VariableRow& offline, const VariableRow& online) {
+  const Variable& ours = *offline.variable;
+  const Variable& theirs = *online.variable;
+  if (!ours.Validity() && !theirs.Validity()) return Match::NotValid;
+  const bool has = HasValue(ours);
+  const bool deviceHas = HasValue(theirs);
+  if (has != deviceHas) return has ? Match::OnlyOffline : Match::OnlyOnline;
+  if (!has) return Match::NoValue;
+  const bool same = offline.unit == online.unit &&
+                    SameOnTheWire(ours.Value(), theirs.Value(), theirs.TypeInfo().TypeCode());
+  return same ? Match::Equal : Match::Differs;
+}
+
+}  // namespace
+
+ComparedRow Compare(VariableRow offline, VariableRow online) {
+  const Match match = MatchOf(offline, online);
+  return {std::move(offline), std::move(online), match};
+}
+
+bool IsDifference(Match match) {
+  return match == Match::Differs || match == Match::OnlyOffline || match == Match::OnlyOnline;
+}
+
+std::string_view SignOf(Match match) {
+  return WordsOf(match).sign;
+}
+
+std::string_view NameOf(Match match) {
+  return WordsOf(match).name;
+}
+
+std::string StateText(const ComparedRow& row, const Speech& speech) {
+  std::string text = speech(WordsOf(row.match).text);
+  if (row.offline.variable->ToBeWritten()) text += ", " + speech(Text::StateToBeWritten);
+  if (!row.online.error.empty()) text += ", " + row.online.error;
+  return text;
+}
+
+}  // namespace hartframe
