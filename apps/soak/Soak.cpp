@@ -15,15 +15,23 @@ using namespace ZAFHartTypes;
 
 namespace {
 
-// Takes every error for known, so that nobody is asked about it.
+// Takes every error for known, so that nobody is asked about it, and keeps whose write was refused.
 class Handler : public IDDErrorHandler {
  public:
-  std::int32_t ObjectError(const std::shared_ptr<DDObject>&, ItemIndex) override { return 1; }
+  explicit Handler(Names& refused) : refused_(refused) {}
+  std::int32_t ObjectError(const std::shared_ptr<DDObject>& object, ItemIndex index) override {
+    const bool isRefusal = index == ItemIndex::CannotWrite || index == ItemIndex::NotWritable;
+    if (isRefusal) refused_.insert(object->ObjectDefinition().Name());
+    return 1;
+  }
   std::int32_t ResponseCodeError(const CommandStatus&,
                                  const std::shared_ptr<CommandRef>&) override {
     return 1;
   }
   std::int32_t EvaluationError(const std::string&) override { return 1; }
+
+ private:
+  Names& refused_;
 };
 
 // Answers messages at random; has live values refreshed.
@@ -90,12 +98,13 @@ Soak::Soak(std::uint64_t seed)
       live);
   user->SetComponentModel(components_);
   const auto gui = std::dynamic_pointer_cast<ZAFHartLib::CDDDTMGUI>(components_->DDGUI());
+  gui->SetErrorHandler(std::make_shared<Handler>(refused_));
   gui->SetMessageControl(user);
   gui->RegisterCtrl(user);
 }
 
 Soak::~Soak() {
-  components_->PrepareTermination();
+  components_->PrepareTermination();  // the error handler refers to this object
 }
 
 bool Soak::RunUntil(std::uint64_t commands) {
@@ -120,10 +129,12 @@ void Soak::Step() {
   while (drawn >= operation->weight) drawn -= (operation++)->weight;
   const Names before = Pending();
   model_->TakeAttempted();
+  refused_.clear();
   mayClearMarks_ = false;
   ++operation->count;
   if (!IgnoreFailures([&] { (this->*operation->run)(); })) database_->ResetInRecursionFlags();
   CheckMarks(before);
+  if (!problem_.empty()) problem_ += " (" + std::string(operation->name) + ")";
 }
 
 // --- what is done ---
@@ -237,7 +248,7 @@ void Soak::CheckMarks(const Names& before) {
 bool Soak::IsRefused(const std::string& name) const {
   const auto variable =
       components_->DDKernel()->GetVariable(Definition::Define(name, ObjectKind::Variable));
-  return variable->ErrorIndex() != 0 || !variable->CheckHandling(AccessMode::Write);
+  return refused_.contains(name) || !variable->CheckHandling(AccessMode::Write);
 }
 
 }  // namespace soak

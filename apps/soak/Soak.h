@@ -65,6 +65,7 @@ class Soak {
   std::vector<Definition> variables_;
   std::vector<Definition> methods_;
   std::vector<Operation> operations_;
+  Names refused_;               // in this step
   bool mayClearMarks_ = false;  // an upload or a method has run in this step
   std::string problem_;
 };
