@@ -114,6 +114,18 @@ TEST_F(HartframeDataSet, HoldsChangesThatCouldNotBeWritten) {
   EXPECT_EQ(Line("damping_value"), "damping_value=a- float single 4");
 }
 
+TEST_F(HartframeDataSet, ChangesThatAreNotValidWait) {
+  ASSERT_EQ(Run({"save", file_, "linearisation_input_6=500", "linearisation_count=5"}).code, 0);
+  const Result written = RunOn({"write"});
+  EXPECT_EQ(written.code, 4);
+  EXPECT_THAT(written.error, HasSubstr("linearisation_input_6 cannot be written: it is not valid"));
+  EXPECT_THAT(written.out, HasSubstr("1 of 1 written"));
+  EXPECT_THAT(Line("linearisation_input_6"), HasSubstr("w float double 500"));
+  EXPECT_THAT(TempFolder::Read(device_), HasSubstr("linearisation_input_6=510"));
+  EXPECT_EQ(RunOn({"write", "linearisation_count=6"}).code, 0);
+  EXPECT_EQ(ReadValue("linearisation_input_6"), 500);
+}
+
 TEST_F(HartframeDataSet, BelongsToADeviceType) {
   ASSERT_EQ(Run({"save", file_, "tag=X"}).code, 0);
   const std::string before = File();

@@ -67,6 +67,12 @@ TEST_F(HartframePair, UploadsWhatTheDeviceHasUnlessThatLosesChanges) {
                                              HasSubstr("tag=a- packed-ascii text TT-4711"),
                                              HasSubstr("long_tag=aw ascii text after")));
   EXPECT_THAT(Differences(), ElementsAre("long_tag differs"));
+
+  // The values have come with the device's unit, and are converted from it.
+  SetInDevice("range_unit", "range_unit=32");
+  SetInDevice("upper_range_value", "upper_range_value=180");
+  RunOn({"pair", "--upload", "--discard", "range_unit=K"}, 0);
+  EXPECT_THAT(TempFolder::Read(file_), HasSubstr("upper_range_value=a- float double 453.15"));
 }
 
 TEST_F(HartframePair, TakesOverChangesThatWaitForTheDevice) {

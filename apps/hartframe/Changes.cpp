@@ -49,12 +49,12 @@ void RequireOneValue(Session& session, const Change& change) {
   const auto variable = session.Variable(change.definition);
   if (!variable->ToBeWritten()) return;
   const auto value = AcceptedValue(change.value, *variable);
-  if (value && *value == variable->Value()) return;
-  throw CommandFailure(
-      ExitCode::NotAllowed,
-      session.Say()(texts::kTwoChanges,
-                    {change.definition.Name(), StoredText(variable->Value(), *variable),
-                     OneLine(change.value), session.Pending().Path().string()}));
+  const std::string marked = StoredText(variable->Value(), *variable);
+  if (change.value == marked || (value && *value == variable->Value())) return;
+  throw CommandFailure(ExitCode::NotAllowed,
+                       session.Say()(texts::kTwoChanges,
+                                     {change.definition.Name(), OneLine(marked),
+                                      OneLine(change.value), session.Pending().Path().string()}));
 }
 
 // Tells where they are kept.

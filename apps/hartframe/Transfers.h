@@ -15,11 +15,12 @@ namespace hartframe {
 Loaded LoadDiscarding(Session& session);
 // An upload gives up what is still to be written: only when the user says so. Tells when not.
 bool MayDiscard(Session& session, const std::vector<Change>& pending);
-// Writes all variables that are to be written, and tells the outcomes. What is left is kept
-// nowhere.
+// Writes all variables that are to be written, and tells the outcomes. Those that are not valid in
+// this configuration are told and wait. What is left is kept nowhere.
 struct Written {
   std::vector<WriteResult> results;
-  bool finished = true;  // no Ctrl-C
+  bool finished = true;   // no Ctrl-C
+  bool heldBack = false;  // something waits
 };
 Written WriteMarked(Session& session);
 // Writes all variables that are to be written. `notAccepted`: changes of earlier runs that could

@@ -7,6 +7,21 @@ namespace hartframe {
 
 namespace {
 
+using ZAFHartTypes::Definition;
+
+// The marks that a data set on disk brings are not looked at before.
+std::vector<Definition> HoldBackInvalid(Session& session) {
+  std::vector<Definition> invalid;
+  for (const Definition& definition : PendingVariables(session)) {
+    if (session.Variable(definition)->Validity()) continue;
+    session.Database().SetVariableToBeWritten(definition, false);
+    session.Tell().Problem(NameOf(ExitCode::ValueRefused),
+                           session.Say()(Text::NotValidNow, {definition.Name()}));
+    invalid.push_back(definition);
+  }
+  return invalid;
+}
+
 void TellWritten(Session& session, const std::vector<WriteResult>& results) {
   const auto written = std::count_if(results.begin(), results.end(), [](const WriteResult& result) {
     return result.outcome == Outcome::Written || result.outcome == Outcome::Adjusted;
@@ -20,6 +35,12 @@ void TellWritten(Session& session, const std::vector<WriteResult>& results) {
 
 Written WriteMarked(Session& session) {
   Written written;
+  const std::vector<Definition> invalid = HoldBackInvalid(session);
+  written.heldBack = !invalid.empty();
+  const std::shared_ptr<void> marked(nullptr, [&](void*) {
+    for (const Definition& definition : invalid)
+      session.Database().SetVariableToBeWritten(definition, true);
+  });
   WriteWatch watch(session, PendingVariables(session));
   written.finished = session.Run([&] { session.Components().WriteChanges(); });
   written.results = watch.Results();
@@ -39,8 +60,8 @@ ExitCode WriteAndTell(Session& session, const std::vector<Change>& notAccepted) 
     session.Tell().Problem("interrupted", session.Say()(Text::Interrupted));
     return ExitCode::Interrupted;
   }
-  return Worse(ExitCodeOf(written.results),
-               notAccepted.empty() ? ExitCode::Ok : ExitCode::ValueRefused);
+  const bool isComplete = notAccepted.empty() && !written.heldBack;
+  return Worse(ExitCodeOf(written.results), isComplete ? ExitCode::Ok : ExitCode::ValueRefused);
 }
 
 ExitCode RunWrite(Session& session) {

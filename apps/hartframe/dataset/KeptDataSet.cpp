@@ -114,9 +114,8 @@ void KeptDataSet::Restore() {
   if (!file_.Exists()) return;
   StoredDataSet dataSet = file_.Load();
   RequireSameDtm(session_, file_, dataSet);
-  const std::vector<Restored> all = Resolve(dataSet);
-  for (const Restored& restored : all) Apply(restored);
-  SettleUnits(all);
+  for (const Restored& restored : Resolve(dataSet)) Apply(restored);
+  SettleUnits();
   loaded_ = std::move(dataSet);
 }
 
@@ -179,12 +178,11 @@ void KeptDataSet::Apply(const Restored& restored) {
     available_.emplace(restored.definition.Key(), stored.value);
 }
 
-// The values have the units of the file: a change of a unit from now on converts from these.
-void KeptDataSet::SettleUnits(const std::vector<Restored>& all) {
-  for (const Restored& restored : all) {
-    const auto variable = Stored(session_, restored.definition);
+void KeptDataSet::SettleUnits() {
+  for (const Definition& definition : session_.AllVariables(false)) {
+    const auto variable = Stored(session_, definition);
     if (!variable->UnitSource()) continue;
-    variable->SetUnitText(session_.Variable(restored.definition)->UnitText());
+    variable->SetUnitText(session_.Variable(definition)->UnitText());
     session_.Database().WriteObject(variable);
   }
   for (const auto& object : session_.Database().NewEnum()) {

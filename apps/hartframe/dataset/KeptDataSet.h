@@ -31,6 +31,9 @@ class KeptDataSet {
   void RequireSameDevice(Session& online);
   // Writes the file when something has changed. CommandFailure (FileBroken).
   void Keep();
+  // After values were put into the data set with those of their units: a change of a unit from now
+  // on converts from these.
+  void SettleUnits();
   // Writes the same to another file; the number of variables.
   std::size_t SaveTo(const DataSetFile& file);
   // CommandFailure (FileBroken) for a data set of another DTM, or of a newer version of this one.
@@ -44,7 +47,6 @@ class KeptDataSet {
   };
   std::vector<Restored> Resolve(const StoredDataSet& dataSet) const;
   void Apply(const Restored& restored);
-  void SettleUnits(const std::vector<Restored>& all);
   void RefuseType(const StoredVariable& stored, const ZAFHartTypes::Variable& variable) const;
 
   StoredDataSet Current();

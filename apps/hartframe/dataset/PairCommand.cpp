@@ -68,6 +68,7 @@ ExitCode Upload(DataSetPair& pair, const std::vector<Change>& pending) {
     pair.TakeOver(variable);
     ++count;
   }
+  pair.File().SettleUnits();
   offline.Database().SetVariableToBeWritten({}, false);
   offline.Pending().Save({});
   offline.Tell().Note("takenOver", offline.Say()(texts::kTakenOver, {std::to_string(count)}));
