@@ -4,7 +4,7 @@
 #include <ctime>
 
 #include "hartframe/MenuTexts.h"
-#include "hartframe/dataset/PairTexts.h"
+#include "hartframe/dataset/DataSetTexts.h"
 #include "platform/Platform.h"
 #include "types/Utf8.h"
 
@@ -124,8 +124,8 @@ void TextReport::Comparison(std::span<const ComparedRow> rows) {
   }
   if (cells.empty()) return;
   console_.Table(
-      {"", speech_(Text::ColumnName), speech_(Text::ColumnLabel), speech_(texts::kColumnDataSet),
-       speech_(texts::kColumnDevice), speech_(Text::ColumnState)},
+      {"", speech_(Text::ColumnName), speech_(Text::ColumnLabel), speech_(texts::kDataSetTitle),
+       speech_(Text::InfoDevice), speech_(Text::ColumnState)},
       cells);
 }
 

@@ -3,10 +3,6 @@
 // What `pair` and `compare` say, in the six languages.
 namespace hartframe::texts {
 
-inline constexpr const char* kColumnDataSet =
-    "Data set|de|Datensatz|fr|Jeu de données|it|Set di dati|es|Conjunto de datos|kt|Deetasetto";
-inline constexpr const char* kColumnDevice =
-    "Device|de|Gerät|fr|Appareil|it|Dispositivo|es|Dispositivo|kt|Kiki";
 inline constexpr const char* kEqual = "equal|de|gleich|fr|égal|it|uguale|es|igual|kt|onaji";
 inline constexpr const char* kDiffers =
     "differs|de|verschieden|fr|différent|it|diverso|es|distinto|kt|chigau";
