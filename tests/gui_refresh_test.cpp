@@ -54,6 +54,22 @@ TEST_F(RefreshTest, ReadsOneAtATimeStalestFirst) {
   EXPECT_THAT(TakeReads(), ElementsAre("Async b2", "Async c"));
 }
 
+// The others have their turn; the one that failed waits for the next collection.
+TEST_F(RefreshTest, DoesNotAskASilentDeviceForTheSameAgainAtOnce) {
+  Add("a", 30);
+  Add("b", 20);
+  EXPECT_THAT(Collect(), ElementsAre("Async a"));
+  const auto fail = [this] {
+    gui->LifeSignal(LifeSignalCode::ExchangeFinished, kernel->started);
+    platform.Loop().Pump();
+  };
+  fail();
+  fail();
+  fail();
+  EXPECT_THAT(TakeReads(), ElementsAre("Async b"));
+  EXPECT_THAT(Collect(), ElementsAre("Async a"));
+}
+
 TEST_F(RefreshTest, LeavesOutWhatNeedsNoRead) {
   Add("available", 9)->SetAvailable(true);
   Add("invalid", 9)->SetValidity(false);

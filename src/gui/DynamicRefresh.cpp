@@ -146,8 +146,12 @@ void DynamicRefresh::ReadAtOnce(IDDComponents& components, const Definition& def
   Trapped(kSignalEvent, [&] {
     if (const auto kernel = components.DDKernelExtension()) kernel->ReadVariable(definition);
   });
-  if (const std::size_t position = refreshList_.IndexOf(definition)) refreshList_.Remove(position);
+  DropFromList(definition);
   asynchronizer_.Signal(kReadNext);
+}
+
+void DynamicRefresh::DropFromList(const Definition& definition) {
+  if (const std::size_t position = refreshList_.IndexOf(definition)) refreshList_.Remove(position);
 }
 
 void DynamicRefresh::OnExchangeFinished(const std::shared_ptr<CommandRef>& reference) {
@@ -159,7 +163,10 @@ void DynamicRefresh::OnExchangeFinished(const std::shared_ptr<CommandRef>& refer
   }
 }
 
+// A variable whose read has failed waits for the next collection, so that a silent device is not
+// asked without a pause, and for the same variable only.
 void DynamicRefresh::ReadNext() {
+  DropFromList(runningDefinition_);
   runningRead_.reset();
   runningDefinition_ = {};
   asynchronizer_.Signal(kReadNext);

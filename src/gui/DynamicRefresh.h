@@ -46,6 +46,7 @@ class DynamicRefresh {
       ZAFHartTypes::IDDComponents& components, const ZAFHartTypes::Definition& definition);
   void ReadAtOnce(ZAFHartTypes::IDDComponents& components,
                   const ZAFHartTypes::Definition& definition);
+  void DropFromList(const ZAFHartTypes::Definition& definition);
   void ReadNext();
   // Runs `step`, keeping the GUI manager alive, and traces its failure under `name`.
   template <typename Step>
