@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <unordered_map>
 #include <vector>
@@ -276,6 +277,9 @@ class CHARTKernel : public platform::Object,
   void LeaveMenuField(const std::shared_ptr<Variable>& field);
   void WriteChangesAtOnce();
   void ExecuteSubMenu(const Definition& definition, bool isReadOnly, bool isEntered);
+  std::optional<ZAFHartTypes::MenuItem> FindMenuItem(const std::shared_ptr<Menu>& menu,
+                                                     const std::shared_ptr<DDObject>& object,
+                                                     const char* operation);
   void SetSubMenuReadOnly(const Definition& definition, bool isReadOnly);
   void ExecuteEditDisplayItem(const std::shared_ptr<EditDisplay>& field, bool isEntered);
   bool PrepareItems(const std::shared_ptr<EditDisplay>& display, EditItemList list,

@@ -13,14 +13,20 @@ namespace {
 constexpr int kUnknownItem = 1;
 constexpr int kDone = 2;
 
-const MenuItem* FindItem(const Menu& menu, const Definition& definition) {
-  for (const MenuItem& item : menu.Items()) {
-    if (item.Definition().IsSameAs(definition)) return &item;
-  }
-  return nullptr;
-}
-
 }  // namespace
+
+// The menu's item of that object; nothing, reported, when it has none. Both are required.
+std::optional<MenuItem> CHARTKernel::FindMenuItem(const std::shared_ptr<Menu>& menu,
+                                                  const std::shared_ptr<DDObject>& object,
+                                                  const char* operation) {
+  RequireObject(menu, operation);
+  RequireObject(object, operation);
+  for (const MenuItem& item : menu->Items()) {
+    if (item.Definition().IsSameAs(object->ObjectDefinition())) return item;
+  }
+  Report(object, ItemIndex::UnknownMenuItem);
+  return std::nullopt;
+}
 
 std::shared_ptr<Menu> CHARTKernel::StartMenu(const Definition& definition) {
   return Start(definition, "IDDKernel_StartMenu", MenuReads::Yes);
@@ -77,14 +83,8 @@ void CHARTKernel::ExecuteMenu(const std::shared_ptr<Menu>& menu,
                             {{trace_tag::kMenu, menu},
                              {trace_tag::kObj, object},
                              {trace_tag::kIsEntered, Variant(isEntered)}});
-  RequireObject(menu, kOperation);
-  RequireObject(object, kOperation);
-  const MenuItem* found = FindItem(*menu, object->ObjectDefinition());
-  if (!found) {
-    Report(object, ItemIndex::UnknownMenuItem);
-    operation.Release(kUnknownItem);
-    return;
-  }
+  const auto found = FindMenuItem(menu, object, kOperation);
+  if (!found) return operation.Release(kUnknownItem);
   const Definition item = found->Definition();
   const bool isReadOnly = found->IsReadOnly();
   switch (item.Kind()) {
@@ -113,19 +113,13 @@ void CHARTKernel::AsyncExecuteMenu(const std::shared_ptr<Menu>& menu,
                             {{trace_tag::kMenu, menu},
                              {trace_tag::kObj, object},
                              {trace_tag::kIsEntered, Variant(isEntered)}});
-  RequireObject(menu, kOperation);
   RequireObject(object, kOperation);
   if (object->Kind() != ObjectKind::Menu || !isEntered) {
     ExecuteMenu(menu, object, isEntered);
-    operation.Release(kDone);
-    return;
+    return operation.Release(kDone);
   }
-  const MenuItem* found = FindItem(*menu, object->ObjectDefinition());
-  if (!found) {
-    Report(object, ItemIndex::UnknownMenuItem);
-    operation.Release(kUnknownItem);
-    return;
-  }
+  const auto found = FindMenuItem(menu, object, kOperation);
+  if (!found) return operation.Release(kUnknownItem);
   const Definition item = found->Definition();
   SetSubMenuReadOnly(item, found->IsReadOnly());
   AsyncStartMenu(item);

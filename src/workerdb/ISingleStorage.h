@@ -4,6 +4,7 @@
 
 #include "ddobjects/DDObject.h"
 #include "interfaces/Codes.h"
+#include "types/Variant.h"
 
 namespace ZAFHartLib {
 
