@@ -34,14 +34,22 @@ class Handler : public IDDErrorHandler {
   Names& refused_;
 };
 
-// Answers messages at random; has live values refreshed.
+// Answers messages at random; has live values refreshed. What it is shown as not writable for the
+// moment has lost its mark for that reason.
 class User : public hartframe::Control, public IGuiCont2 {
  public:
   using Answer = std::function<std::int32_t(UserMessage&)>;
-  User(Answer answer, const std::vector<Definition>& live) : answer_(std::move(answer)) {
+  User(Answer answer, const std::vector<Definition>& live, Names& refused)
+      : answer_(std::move(answer)), refused_(refused) {
     for (const Definition& definition : live) live_.Add(definition);
   }
   std::int32_t ShowUserMessage(UserMessage& message) override { return answer_(message); }
+  void ShowObject(const std::shared_ptr<DDObject>& object) override {
+    const auto variable = object->MakeVariable();
+    if (variable && !variable->CheckHandling(AccessMode::Write)) {
+      refused_.insert(variable->Definition().Name());
+    }
+  }
   std::uint64_t ThreadID() const override { return platform::ThreadId(); }
   std::uintptr_t hAppInstance() const override { return platform::ApplicationInstance(); }
   void CollectRefreshData(DefinitionList& dynData) override {
@@ -51,6 +59,7 @@ class User : public hartframe::Control, public IGuiCont2 {
 
  private:
   Answer answer_;
+  Names& refused_;
   DefinitionList live_;
 };
 
@@ -95,7 +104,7 @@ Soak::Soak(std::uint64_t seed)
         }
         return Chance(0.2) ? kMessageCancelled : 0;
       },
-      live);
+      live, refused_);
   user->SetComponentModel(components_);
   const auto gui = std::dynamic_pointer_cast<ZAFHartLib::CDDDTMGUI>(components_->DDGUI());
   gui->SetErrorHandler(std::make_shared<Handler>(refused_));
