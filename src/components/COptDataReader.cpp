@@ -18,8 +18,13 @@ namespace {
 
 constexpr const char* kLineBreak = "\r\n";
 
-std::string OptimizationFile(IKernelInformation& information) {
-  std::string path = information.ComponentFolder() + "\\" + information.ComponentFileName();
+std::string OptimizationFile(const IDDComponents& components) {
+  const auto information = components.KernelInformation();
+  if (!information) {
+    throw Failure(ErrorNumber::ObjectNotSet, "COptDataReader",
+                  "The component model has no kernel information to tell the file's folder.");
+  }
+  std::string path = information->ComponentFolder() + "\\" + information->ComponentFileName();
   path.resize(std::min(path.rfind('.'), path.size()));
   return path + "\\OptData.Ini";
 }
@@ -47,7 +52,7 @@ std::int32_t LeadingNumber(std::string_view text) {
 
 bool COptDataReader::ConfigureOptimization(IDDComponents& components) {
   try {
-    Read(OptimizationFile(*components.KernelInformation()));
+    Read(OptimizationFile(components));
   } catch (const Failure& failure) {
     report_ += failure.Source() + " - " + failure.Description() + kLineBreak;
   }
@@ -97,16 +102,21 @@ void COptDataReader::TakeStaticObjects(std::string_view names) {
 }
 
 void COptDataReader::TakeArrayCommand(std::string_view line) {
-  std::string_view command;
-  std::string_view transaction;
-  std::string_view array;
-  std::string_view rest = line;
-  if (!TakeField(rest, '#', command) || !TakeField(rest, ':', transaction) ||
-      !TakeField(rest, ',', array)) {
+  // The first of each counts, in this order; npos is behind every position.
+  const std::size_t hash = line.find('#');
+  const std::size_t colon = line.find(':');
+  const std::size_t comma = line.find(',');
+  if (hash >= colon || colon >= comma || comma >= line.size()) {
     ReportLine(" wrong format");
     return;
   }
-  const std::string_view arrayIndex = platform::Trim(rest);
+  const auto field = [line](std::size_t from, std::size_t end) {
+    return platform::Trim(line.substr(from, end - from));
+  };
+  const std::string_view command = field(0, hash);
+  const std::string_view transaction = field(hash + 1, colon);
+  const std::string_view array = field(colon + 1, comma);
+  const std::string_view arrayIndex = field(comma + 1, line.size());
   const std::int32_t number = LeadingNumber(transaction);
   if (command.empty() || array.empty() || arrayIndex.empty() || number < 0) {
     ReportLine(" attribute missing");
