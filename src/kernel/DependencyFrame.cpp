@@ -17,7 +17,8 @@ DependencyFrame::~DependencyFrame() {
 }
 
 void DependencyFrame::Note(const Definition& item, ReadSort sort) {
-  if (!database_ || item.IsSameAs(object_)) return;
+  if (item.IsSameAs(object_)) return NoteOwnValue();
+  if (!database_) return;
   database_->AddDependent(object_, item);
   if (sort == ReadSort::Value) database_->AddDependency(object_, item);
   database_->InheritDependencies(object_, item);

@@ -32,7 +32,8 @@ class DependencyFrame {
   DependencyFrame& operator=(const DependencyFrame&) = delete;
 
   bool IsNoting() const { return database_ != nullptr; }
-  // The object depends on the item, and on all that the item's own attributes were computed from.
+  // The object depends on the item, and on all that the item's own attributes were computed from;
+  // where the item is the object itself, on its own value.
   void Note(const ZAFHartTypes::Definition& item, ReadSort sort);
   // The object depends on its own value.
   void NoteOwnValue();
