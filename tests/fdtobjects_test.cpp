@@ -154,6 +154,8 @@ TEST_F(InternalObjectsTest, ComputesTheCatalogue) {
       {"__ZAF__BUSCATEGORY", "Bus Type", TypeCode::Enumerated, 0, 7, 7, std::int16_t{1}, true},
       {"__ZAF__FDTDTMState", "FDT DTM State", TypeCode::Enumerated, 0, 11, 12, 0, false},
       {"__ZAF__RETRYNO", "Retry No.", TypeCode::Unsigned, 1, 0, 0, std::int16_t{5}, false},
+      {"__ZAF__HostLocale", "Regional and Language options", TypeCode::Integer, 4, 0, 0,
+       std::int16_t{0}, false},
       {"__ZAF__DISABLEDFUNCTIONIDS", "Active function IDs", TypeCode::Ascii, 512, 0, 0, "", true}};
   for (const Case& entry : cases) {
     const auto variable = dtm_.ComputeOnly(entry.name);
