@@ -37,6 +37,25 @@ TEST(Components, InitializeWiresOneKernelAndOneOfEachSibling) {
   EXPECT_FALSE(dtm.Stored("upper_range")->Available());
 }
 
+TEST(Components, SecureKernelReportsWhatTheKernelRaises) {
+  SmallDtm dtm;
+  ZAFHartLib::CDDComponents& components = *dtm.components;
+  components.Initialize(true);
+  const auto messages = std::make_shared<test_support::RecordingControl>();
+  dynamic_cast<ZAFHartLib::CDDDTMGUI&>(*components.DDGUI()).SetMessageControl(messages);
+  const auto unknown = Definition::Define("unknown", ObjectKind::Menu);
+  const auto secure = components.DDKernelExtension();
+  EXPECT_EQ(NumberOf([&] { components.DDKernel()->GetMenu(unknown); }), ErrorNumber::ObjectNotSet);
+  EXPECT_EQ(secure->GetMenu(unknown), nullptr);
+  EXPECT_EQ(std::dynamic_pointer_cast<IDDKernel2>(secure)->AsyncStartMenu(unknown), nullptr);
+  ASSERT_EQ(messages->userMessages.size(), 2U);
+  for (const auto& message : messages->userMessages) {
+    EXPECT_EQ(message.prompt,
+              "91 : The data set has no MENU \"unknown\".\r\nin IDDKernel_GetMenu\r\n"
+              "Please report this Error!");
+  }
+}
+
 TEST(Components, ClassThatCannotBeCreatedIsNamed) {
   SmallDtm dtm;
   const auto components = ZAFHartLib::CDDComponents::Create();
