@@ -22,6 +22,9 @@ if(ZAF_SANITIZE)
   add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
   add_link_options(-fsanitize=address,undefined)
 endif()
+if(ZAF_FUZZ)
+  add_compile_options(-fsanitize=fuzzer-no-link)
+endif()
 
 # zaf_room(<name>): one folder below src/ as an object library; the one library is made of them all.
 function(zaf_room name)
