@@ -71,6 +71,29 @@ TEST(HartFrames, RequestsAndReplies) {
   EXPECT_EQ(ToHex(RequestFrame(256, device, true, {}).data), "0100");
 }
 
+TEST(HartFrames, WhatAnswersARequest) {
+  const auto request = DecodeFrame(FromHex("82 A6 06 12 34 56 1F 02 02 01 4C")).frame;
+  struct {
+    const char* bytes;
+    bool answers;
+  } const cases[] = {
+      {"86 A6 06 12 34 56 1F 05 00 00 02 01 05 4A", true},
+      {"86 E6 06 12 34 56 1F 05 00 00 02 01 05 0A", true},   // in burst mode
+      {"86 A6 06 12 34 56 1F 02 40 00 0B", true},            // command 31 not known
+      {"86 A6 06 12 34 56 1F 04 00 00 02 02 4D", false},     // another number
+      {"86 26 06 12 34 56 1F 05 00 00 02 01 05 CA", false},  // to the other master
+      {"86 A6 06 12 34 57 1F 05 00 00 02 01 05 4B", false},  // from another device
+      {"86 A6 06 12 34 56 03 02 00 00 57", false},           // another command
+      {"81 E6 06 12 34 56 1F 04 00 00 02 01 09", false},     // a burst
+      {"82 A6 06 12 34 56 1F 02 02 01 4C", false},           // an echo
+  };
+  for (const auto& test : cases) {
+    const DecodedFrame decoded = DecodeFrame(FromHex(test.bytes));
+    EXPECT_EQ(FaultText(decoded.fault), "") << test.bytes;
+    EXPECT_EQ(Answers(decoded.frame, request), test.answers) << test.bytes;
+  }
+}
+
 TEST(HartFrames, RefusesWhatNoFrameHolds) {
   const std::vector<std::uint8_t> data(254);
   const auto device = LinkAddress::Polling(1);

@@ -132,6 +132,12 @@ LinkFrame ReplyFrame(const LinkFrame& request, Bytes statusAndData) {
   return frame;
 }
 
+bool Answers(const LinkFrame& frame, const LinkFrame& request) {
+  return frame.type == FrameType::Reply && frame.address == request.address &&
+         frame.primaryMaster == request.primaryMaster && frame.command == request.command &&
+         (!HasExtendedNumber(frame) || frame.CommandNumber() == request.CommandNumber());
+}
+
 std::vector<std::uint8_t> EncodeFrame(const LinkFrame& frame) {
   CheckEncodable(frame);
   const Bytes address(frame.address.bytes.data(), AddressSize(frame.address.isLong));

@@ -73,6 +73,9 @@ LinkFrame RequestFrame(std::uint16_t number, const LinkAddress& address, bool pr
 // A device's answer to `request`, with its address, master and command. `statusAndData` is without
 // the extended number. Raises InvalidArgument for more data than fit.
 LinkFrame ReplyFrame(const LinkFrame& request, Bytes statusAndData);
+// `frame` is the device's answer to `request`: of the same address, master and command. A reply to
+// command 31 without an extended number, from a device that does not know it, answers any of them.
+bool Answers(const LinkFrame& frame, const LinkFrame& request);
 
 // The bytes from delimiter to check byte. Raises InvalidArgument for more than 255 data bytes, more
 // than 3 expansion bytes or an address that is none.
