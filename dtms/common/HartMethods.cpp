@@ -45,6 +45,18 @@ void JudgeReplies(IDDBuiltinLib& dd) {
   dd.SetNoDevice(StatusHandling::Retry);
 }
 
+std::string OwnStatus(int number) {
+  return "device_specific_status_" + std::to_string(number);
+}
+
+void ShowEveryStatus(IDDBuiltinLib& dd) {
+  constexpr std::uint8_t kAllBits = 0xFF;
+  JudgeReplies(dd);
+  dd.SetDeviceStatus(kAllBits, StatusHandling::Ignore);
+  dd.SetXmtrDeviceStatus(kAllBits, StatusHandling::Ignore);
+  dd.SetXmtrAllRespCode(StatusHandling::Ignore);
+}
+
 bool CarryOut(IDDBuiltinLib& dd, std::int16_t command) {
   ByteBuffer status{0, 0, 0};
   const std::int32_t result = dd.Send(command, status);

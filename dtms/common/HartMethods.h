@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
 
 #include "dtmkit/MethodBody.h"
 
@@ -12,6 +13,13 @@ using ZAFHartTypes::IDDBuiltinLib;
 // Leaves the judgement of response codes to CarryOut, and has a command that was disturbed or not
 // answered sent twice more.
 void JudgeReplies(IDDBuiltinLib& dd);
+
+// The same for methods that show the device's status: none of its bits ends the method.
+void ShowEveryStatus(IDDBuiltinLib& dd);
+// The device's own bytes lead the data of command 48; the variables device_specific_status_0 … have
+// the texts.
+inline constexpr int kOwnStatusBytes = 6;
+std::string OwnStatus(int number);
 
 // Sends a command and tells the user what the device has to say about it. True when the device has
 // carried it out, be it with a warning. False when it has refused, which the method may answer with

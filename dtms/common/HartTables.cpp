@@ -1,40 +1,8 @@
 #include "common/HartTables.h"
 
-#include "types/Failure.h"
-
 namespace hart {
 
-using ZAFHartTypes::EnumItem;
-using ZAFHartTypes::EnumList;
 using ZAFHartTypes::dtmkit::MakeEnums;
-
-namespace {
-
-const EnumList& AllUnits() {
-  static const EnumList units{
-      {32, "°C", "degrees Celsius|de|Grad Celsius"},
-      {33, "°F", "degrees Fahrenheit|de|Grad Fahrenheit"},
-      {34, "°R", "degrees Rankine|de|Grad Rankine"},
-      {35, "K", "kelvin|de|Kelvin"},
-      {36, "mV", "millivolts|de|Millivolt"},
-      {37, "Ω", "ohms|de|Ohm"},
-      {39, "mA", "milliamperes|de|Milliampere"},
-      {51, "s", "seconds|de|Sekunden"},
-      {57, "%", "percent|de|Prozent"},
-      {58, "V", "volts|de|Volt"},
-      {163, "kΩ", "kiloohms|de|Kiloohm"},
-      {250, "-", "not used|de|nicht benutzt"},
-  };
-  return units;
-}
-
-}  // namespace
-
-Enums Units(std::initializer_list<Unit> units) {
-  EnumList list;
-  for (const Unit unit : units) list.Add(*AllUnits().Find(static_cast<std::int32_t>(unit)));
-  return std::make_shared<const EnumList>(std::move(list));
-}
 
 const Enums& ManufacturerCodes() {
   static const Enums codes =
@@ -160,6 +128,14 @@ const Enums& LimitStatusCodes() {
 
 const Enums& DeviceOperatingModes() {
   static const Enums codes = MakeEnums({{0, "Normal"}});
+  return codes;
+}
+
+const Enums& BurstModeControlCodes() {
+  static const Enums codes = MakeEnums({{0, "Off|de|Aus"},
+                                        {1, "On, wired|de|Ein, Kabel"},
+                                        {2, "On, wireless|de|Ein, Funk"},
+                                        {3, "On, wired and wireless|de|Ein, Kabel und Funk"}});
   return codes;
 }
 

@@ -11,7 +11,7 @@ namespace hart {
 using ZAFHartTypes::dtmkit::Bits;
 using ZAFHartTypes::dtmkit::Enums;
 
-// Engineering unit codes (table 2) that transmitters of temperature and electrical signals use.
+// Engineering unit codes (table 2) that descriptions name.
 enum class Unit : std::int32_t {
   DegreesCelsius = 32,
   DegreesFahrenheit = 33,
@@ -28,6 +28,7 @@ enum class Unit : std::int32_t {
 };
 // A list of those units, in the order given.
 Enums Units(std::initializer_list<Unit> units);
+const Enums& AllUnits();  // table 2, for devices that may measure anything
 
 const Enums& ManufacturerCodes();              // table 8; only the codes that stand for no maker
 const Enums& DeviceProfileCodes();             // table 57
@@ -40,6 +41,7 @@ const Enums& DeviceVariableClassifications();  // table 21
 const Enums& ProcessDataStatusCodes();         // table A-3, bits 7 and 6 of a status byte
 const Enums& LimitStatusCodes();               // table A-3, bits 5 and 4
 const Enums& DeviceOperatingModes();           // table 14: only 0 is defined
+const Enums& BurstModeControlCodes();          // table 18
 
 const Bits& DeviceStatusBits();          // field device status, Command Summary (TS20099) 7.4.2
 const Bits& ExtendedDeviceStatusBits();  // table 17

@@ -1,7 +1,23 @@
 #include "sampletemperature/Description.h"
 
+#include "common/HartItems.h"
+
 namespace sampletemperature {
 namespace {
+
+// In multi-drop mode the current carries no measurement.
+bool HasLoopCurrent(Context& context) {
+  return context.Long("loop_current_mode") != 0;
+}
+
+void DescribeCommonPracticeCommands(DeviceDescription& dd) {
+  hart::DescribeReadDeviceVariable(dd);
+  hart::DescribeReadAssignments(dd);
+  hart::DescribeUnitCommands(dd);
+  hart::DescribeRangeCommands(dd);
+  hart::DescribeLoopCurrentCommands(dd);
+  hart::DescribeDeviceHandling(dd);
+}
 
 // Arrays come before the variables and commands that name them.
 std::unique_ptr<const Catalogue> MakeDescription() {
@@ -16,14 +32,13 @@ std::unique_ptr<const Catalogue> MakeDescription() {
   DescribeLinearisationVariables(*dd);
   DescribeServiceVariables(*dd);
   DescribeLocalVariables(*dd);
-  DescribeUniversalReadCommands(*dd);
-  DescribeUniversalWriteCommands(*dd);
+  DescribeUniversalCommands(*dd);
   DescribeCommonPracticeCommands(*dd);
   DescribeDeviceCommands(*dd);
   DescribeRelations(*dd);
   DescribeUnitTable(*dd);
   DescribeActions(*dd);
-  DescribeLoopMethods(*dd);
+  hart::DescribeLoopMethods(*dd, HasLoopCurrent);
   DescribeTrimMethods(*dd);
   DescribeStatusMethods(*dd);
   DescribeDeviceMethods(*dd);

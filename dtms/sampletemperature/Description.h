@@ -23,17 +23,13 @@ void DescribeLinearisationVariables(DeviceDescription& dd);  // table of points
 void DescribeServiceVariables(DeviceDescription& dd);        // service notes, operating data
 void DescribeLocalVariables(DeviceDescription& dd);          // held by the DTM
 
-void DescribeUniversalReadCommands(DeviceDescription& dd);
-void DescribeUniversalWriteCommands(DeviceDescription& dd);
-void DescribeCommonPracticeCommands(DeviceDescription& dd);
+void DescribeUniversalCommands(DeviceDescription& dd);
 void DescribeDeviceCommands(DeviceDescription& dd);
 
 void DescribeRelations(DeviceDescription& dd);
 void DescribeUnitTable(DeviceDescription& dd);
-void DescribeActions(DeviceDescription& dd);      // of variables and edit displays
-void DescribeLoopRelease(DeviceDescription& dd);  // the abort method of those that fix the current
-void DescribeLoopMethods(DeviceDescription& dd);  // loop test, trim of the loop current
-void DescribeTrimMethods(DeviceDescription& dd);  // trim of the sensor
+void DescribeActions(DeviceDescription& dd);        // of variables and edit displays
+void DescribeTrimMethods(DeviceDescription& dd);    // trim of the sensor
 void DescribeStatusMethods(DeviceDescription& dd);  // self test, status bits
 void DescribeDeviceMethods(DeviceDescription& dd);  // reset, live values
 

@@ -1,3 +1,4 @@
+#include "common/HartItems.h"
 #include "common/HartResponseCodes.h"
 #include "sampletemperature/Description.h"
 
@@ -78,9 +79,30 @@ void DescribeServiceCommands(DeviceDescription& dd) {
                {"service_date", "service_interval", "service_note", "service_code"});
 }
 
+void DescribeSensorTrim(DeviceDescription& dd) {
+  using enum ResponseCodeType;
+  // HART command 82; the device keeps what follows from it, not the data
+  dd.Command("write_device_variable_trim_point", 82, Operation::Command)
+      .Request({Index(hart::kDeviceVariableCode), Info("trim_point"), Info("trim_unit"),
+                Info("trim_reference")})
+      .Reply({Index(hart::kDeviceVariableCode), Info("trim_point"), Info("trim_unit"),
+              Info("trim_reference")})
+      .Codes(hart::WriteCodes(
+          {hart::InvalidSelection(),
+           hart::ParameterTooLarge(),
+           hart::ParameterTooSmall(),
+           {9, ProcessError, "Applied process too high|de|Anliegender Messwert zu hoch"},
+           {10, ProcessError, "Applied process too low|de|Anliegender Messwert zu niedrig"},
+           {11, DataEntryError, "Invalid device variable code|de|Ungültige Gerätevariable"},
+           {13, ProcessError,
+            "Trim fails, nothing is changed|de|Abgleich misslingt, nichts ist geändert"},
+           hart::InvalidUnits()}));
+}
+
 }  // namespace
 
 void DescribeDeviceCommands(DeviceDescription& dd) {
+  DescribeSensorTrim(dd);
   DescribeSensorCommands(dd);
   DescribeOutputCommands(dd);
   DescribeLinearisationCommands(dd);

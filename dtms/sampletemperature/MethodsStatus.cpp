@@ -1,3 +1,4 @@
+#include "common/HartItems.h"
 #include "common/HartMethods.h"
 #include "sampletemperature/Description.h"
 
@@ -5,54 +6,10 @@
 namespace sampletemperature {
 namespace {
 
-constexpr std::int16_t kSelfTest = 41;  // HART command numbers
-constexpr std::int16_t kReadAdditionalStatus = 48;
-constexpr int kOwnStatusBytes = 6;
-
-std::string OwnStatus(int number) {
-  return "device_specific_status_" + std::to_string(number);
-}
-
-// The bits are what these methods are about: none of them ends the method.
-void ShowEveryStatus(IDDBuiltinLib& dd) {
-  constexpr std::uint8_t kAllBits = 0xFF;
-  hart::JudgeReplies(dd);
-  dd.SetDeviceStatus(kAllBits, StatusHandling::Ignore);
-  dd.SetXmtrDeviceStatus(kAllBits, StatusHandling::Ignore);
-  dd.SetXmtrAllRespCode(StatusHandling::Ignore);
-}
-
-// The device's own bytes lead the data of command 48. True when there was something to show.
-bool ShowAdditionalStatus(IDDBuiltinLib& dd, const ByteBuffer& data) {
-  bool hasShown = false;
-  for (int number = 0; number < kOwnStatusBytes && !dd.IsAbort(); ++number) {
-    const auto position = static_cast<std::size_t>(number);
-    const std::uint8_t bits = position < data.Count() ? data.Item(position) : std::uint8_t{0};
-    if (bits == 0) continue;
-    dd.DisplayXmtrStatus(OwnStatus(number), bits);
-    hasShown = true;
-  }
-  return hasShown;
-}
-
-void TestDevice(IDDBuiltinLib& dd) {
-  ShowEveryStatus(dd);
-  if (!hart::Confirm(dd,
-                     "The measurement may jump during the test. Start it?|de|"
-                     "Die Messung kann während des Tests springen. Starten?")) {
-    return;
-  }
-  std::uint8_t deviceStatus = 0;
-  ByteBuffer additional;
-  if (!hart::CarryOut(dd, kSelfTest, deviceStatus, additional)) return;
-  if (deviceStatus != 0) dd.DisplayDeviceStatus(deviceStatus);
-  if (dd.IsAbort()) return;
-  if (ShowAdditionalStatus(dd, additional) || deviceStatus != 0 || dd.IsAbort()) return;
-  dd.Acknowledge("The device has found no fault.|de|Das Gerät hat keinen Fehler gefunden.");
-}
+constexpr std::int16_t kReadAdditionalStatus = 48;  // HART command number
 
 void ShowStatusByte(IDDBuiltinLib& dd, int number) {
-  const std::string name = OwnStatus(number);
+  const std::string name = hart::OwnStatus(number);
   const std::int16_t bits = dd.IntValue(name);
   if (bits != 0) {
     dd.DisplayXmtrStatus(name, bits);
@@ -63,10 +20,10 @@ void ShowStatusByte(IDDBuiltinLib& dd, int number) {
 
 void ShowAllMessages(IDDBuiltinLib& dd) {
   std::string all;
-  for (int number = 0; number < kOwnStatusBytes; ++number) {
-    const std::int16_t bits = dd.IntValue(OwnStatus(number));
+  for (int number = 0; number < hart::kOwnStatusBytes; ++number) {
+    const std::int16_t bits = dd.IntValue(hart::OwnStatus(number));
     std::string text;
-    if (bits != 0) dd.GetStatusCodeString(OwnStatus(number), bits, text);
+    if (bits != 0) dd.GetStatusCodeString(hart::OwnStatus(number), bits, text);
     if (dd.IsAbort()) return;
     if (!text.empty()) all += (all.empty() ? "" : "\n") + text;
   }
@@ -74,9 +31,9 @@ void ShowAllMessages(IDDBuiltinLib& dd) {
 }
 
 void ShowStatus(IDDBuiltinLib& dd) {
-  constexpr std::int32_t kAll = kOwnStatusBytes;
+  constexpr std::int32_t kAll = hart::kOwnStatusBytes;
   constexpr std::int32_t kEnd = kAll + 1;
-  ShowEveryStatus(dd);
+  hart::ShowEveryStatus(dd);
   for (;;) {
     const std::int32_t choice = dd.SelectFromList(
         "Status to show|de|Anzuzeigender Status", {},
@@ -93,10 +50,7 @@ void ShowStatus(IDDBuiltinLib& dd) {
 }  // namespace
 
 void DescribeStatusMethods(DeviceDescription& dd) {
-  dd.Method("self_test")
-      .Label("Self test|de|Selbsttest")
-      .Help("Has the device test itself|de|Lässt das Gerät sich selbst prüfen")
-      .Body(TestDevice);
+  hart::DescribeSelfTest(dd);
   dd.Method("show_status")
       .Label("Show status|de|Status anzeigen")
       .Help("Shows the device's messages|de|Zeigt die Meldungen des Geräts")

@@ -1,3 +1,4 @@
+#include "common/HartItems.h"
 #include "common/HartTables.h"
 #include "sampletemperature/Description.h"
 
@@ -58,25 +59,7 @@ void DescribeCalculated(DeviceDescription& dd) {
 void DescribeLocalVariables(DeviceDescription& dd) {
   DescribeTrimRequest(dd);
   DescribeCalculated(dd);
-  dd.Variable("fixed_loop_current")
-      .Label("Fixed loop current|de|Fester Schleifenstrom")
-      .Help("Current to hold; 0 releases it|de|Strom, der gehalten wird; 0 gibt ihn frei")
-      .Float()
-      .Format("6.3f")
-      .Unit("mA")
-      .Range(0.0F, 0.0F)
-      .Range(3.5F, 23.0F)
-      .Default(0.0F)
-      .Local();
-  dd.Variable("measured_loop_current")
-      .Label("Measured loop current|de|Gemessener Schleifenstrom")
-      .Help("Reading of the reference meter|de|Anzeige des Referenzmessgeräts")
-      .Float()
-      .Format("6.3f")
-      .Unit("mA")
-      .Range(3.5F, 23.0F)
-      .Default(4.0F)
-      .Local();
+  hart::DescribeLoopVariables(dd);
   dd.Variable("test_pattern")
       .Label("Test pattern|de|Testmuster")
       .Help("Steps of a test, one character each|de|Schritte eines Tests, je ein Zeichen")

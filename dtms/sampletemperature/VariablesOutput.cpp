@@ -61,13 +61,6 @@ void DescribeTrim(DeviceDescription& dd) {
 }  // namespace
 
 void DescribeOutputVariables(DeviceDescription& dd) {
-  dd.Variable("alarm_selection")
-      .Label("Alarm|de|Alarmverhalten")
-      .Help(
-          "What the loop current does in case of a fault|de|"
-          "Was der Schleifenstrom bei einer Störung tut")
-      .Enumerated(1, hart::AlarmSelectionCodes())
-      .Default(0);
   DescribeCurrents(dd);
   dd.Variable("alarm_delay")
       .Label("Alarm delay|de|Alarmverzögerung")

@@ -1,3 +1,4 @@
+#include "common/HartItems.h"
 #include "common/HartTables.h"
 #include "sampletemperature/Description.h"
 #include "sampletemperature/DeviceVariable.h"
@@ -38,24 +39,7 @@ void DescribeValues(DeviceDescription& dd) {
         .ReadOnly()
         .Dynamic();
   }
-  dd.Variable("loop_current")
-      .Label("Loop current|de|Schleifenstrom")
-      .Help(
-          "Current that the device drives through its loop|de|"
-          "Strom, den das Gerät durch seine Schleife treibt")
-      .Float()
-      .Format("7.3f")
-      .Unit("mA")
-      .ReadOnly()
-      .Dynamic();
-  dd.Variable("percent_of_range")
-      .Label("Percent of range|de|Prozent des Messbereichs")
-      .Help("Primary variable as part of its range|de|Messwert als Teil seines Messbereichs")
-      .Float()
-      .Format("7.2f")
-      .Unit("%")
-      .ReadOnly()
-      .Dynamic();
+  hart::DescribeLoopValues(dd);
   dd.Variable("data_time_stamp")
       .Label("Time stamp|de|Zeitstempel")
       .Help(

@@ -26,6 +26,11 @@ class DeviceDescription : public Catalogue {
   VariableBuilder Variable(std::string_view name) {
     return Make<VariableBuilder, ZAFHartTypes::Variable>(name);
   }
+  // A variable that was described before, to say more about it or to say it anew. Raises
+  // InvalidArgument when there is none of that name.
+  VariableBuilder Known(std::string_view name) {
+    return VariableBuilder(*this, *Prototype<ZAFHartTypes::Variable>(name));
+  }
   CommandBuilder Command(std::string_view name, std::int16_t number, Operation operation) {
     return {*this, Add<ZAFHartTypes::Command>(name), number, operation};
   }

@@ -1,8 +1,8 @@
-#include "sampletemperature/FixedLoopCurrent.h"
+#include "common/FixedLoopCurrent.h"
 
 #include "common/HartMethods.h"
 
-namespace sampletemperature {
+namespace hart {
 namespace {
 
 constexpr std::int16_t kFixLoopCurrent = 40;  // HART command number
@@ -11,12 +11,12 @@ constexpr const char* kReleaseMethod = "release_loop_current";
 // Without current the device leaves the mode.
 bool SendCurrent(IDDBuiltinLib& dd, double milliamperes) {
   dd.AssignFloat("fixed_loop_current", static_cast<float>(milliamperes));
-  return hart::CarryOut(dd, kFixLoopCurrent);
+  return CarryOut(dd, kFixLoopCurrent);
 }
 
 // The abort method.
 void ReleaseLoopCurrent(IDDBuiltinLib& dd) {
-  hart::JudgeReplies(dd);
+  JudgeReplies(dd);
   if (SendCurrent(dd, 0)) {
     dd.PutMessage(
         "The loop current follows the measurement again.|de|"
@@ -50,11 +50,11 @@ bool FixedLoopCurrent::Release() {
   return true;
 }
 
-void DescribeLoopRelease(DeviceDescription& dd) {
+void DescribeLoopRelease(ZAFHartTypes::dtmkit::DeviceDescription& dd) {
   dd.Method("release_loop_current")
       .Label("Release loop current|de|Schleifenstrom freigeben")
       .Help("Ends the fixed loop current|de|Beendet den festen Schleifenstrom")
       .Body(ReleaseLoopCurrent);
 }
 
-}  // namespace sampletemperature
+}  // namespace hart

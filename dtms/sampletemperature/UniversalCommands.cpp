@@ -1,3 +1,4 @@
+#include "common/HartItems.h"
 #include "common/HartResponseCodes.h"
 #include "sampletemperature/Description.h"
 #include "sampletemperature/DeviceVariable.h"
@@ -44,29 +45,6 @@ void DescribeIdentification(DeviceDescription& dd) {
       .Codes(hart::ReadCodes());
 }
 
-void DescribeMeasurement(DeviceDescription& dd) {
-  const SharedCodes codes = hart::ReadCodes({hart::UpdateFailure()});
-  // HART command 1
-  dd.Command("read_primary_variable", 1, Operation::Read)
-      .Reply({"primary_variable_unit", "primary_variable"})
-      .Codes(codes);
-  // HART command 2
-  dd.Command("read_pv_current_and_percent_of_range", 2, Operation::Read)
-      .Reply({"loop_current", "percent_of_range"})
-      .Codes(codes);
-  // HART command 3
-  dd.Command("read_dynamic_variables_and_pv_current", 3, Operation::Read)
-      .Reply({"loop_current", "primary_variable_unit", "primary_variable",
-              "secondary_variable_unit", "secondary_variable", "tertiary_variable_unit",
-              "tertiary_variable", "fourth_variable_unit", "fourth_variable"})
-      .Codes(codes);
-  // HART command 8
-  dd.Command("read_dynamic_variable_classifications", 8, Operation::Read)
-      .Reply({"primary_variable_classification", "secondary_variable_classification",
-              "tertiary_variable_classification", "fourth_variable_classification"})
-      .Codes(hart::ReadCodes());
-}
-
 // One slot of command 9 for the device variable of that code.
 void AddSlot(std::vector<CommandItem>& items, const DeviceVariable& variable) {
   const std::string name = variable.name;
@@ -81,8 +59,8 @@ void AddSlot(std::vector<CommandItem>& items, const DeviceVariable& variable) {
 
 // HART command 9: one device variable of one's choice, or all four.
 void DescribeDeviceVariablesWithStatus(DeviceDescription& dd) {
-  constexpr std::string_view kArray = "device_variables";
-  constexpr std::string_view kCode = "device_variable_code";
+  constexpr std::string_view kArray = hart::kDeviceVariables;
+  constexpr std::string_view kCode = hart::kDeviceVariableCode;
   std::vector<CommandItem> request;
   std::vector<CommandItem> reply{"extended_device_status"};
   for (const DeviceVariable& variable : kDeviceVariables) {
@@ -102,30 +80,13 @@ void DescribeDeviceVariablesWithStatus(DeviceDescription& dd) {
       .Transaction(1)
       .Request(request)
       .Reply(reply)
-      .Codes(hart::ReadCodes(
-          {hart::TooFewDataBytes(),
-           hart::UpdateFailure(),
-           {14, ResponseCodeType::MiscWarning,
-            "Dynamic variables returned for device variables|de|"
-            "Dynamische Variablen statt Gerätevariablen"},
-           {30, ResponseCodeType::MiscWarning, "Reply truncated|de|Antwort gekürzt"}}));
+      .Codes(hart::DeviceVariableCodes());
 }
 
-void DescribeNamesAndSettings(DeviceDescription& dd) {
+void DescribeSettings(DeviceDescription& dd) {
   // HART command 7
   dd.Command("read_loop_configuration", 7, Operation::Read)
       .Reply({"polling_address", "loop_current_mode"})
-      .Codes(hart::ReadCodes());
-  // HART command 12
-  dd.Command("read_message", 12, Operation::Read).Reply({"message"}).Codes(hart::ReadCodes());
-  // HART command 13
-  dd.Command("read_tag_descriptor_date", 13, Operation::Read)
-      .Reply({"tag", "descriptor", "date"})
-      .Codes(hart::ReadCodes());
-  // HART command 14
-  dd.Command("read_pv_transducer_information", 14, Operation::Read)
-      .Reply({"transducer_serial_number", "transducer_limits_unit", "upper_transducer_limit",
-              "lower_transducer_limit", "minimum_span"})
       .Codes(hart::ReadCodes());
   // HART command 15; the distributor's place is reserved since revision 7
   dd.Command("read_device_information", 15, Operation::Read)
@@ -133,12 +94,13 @@ void DescribeNamesAndSettings(DeviceDescription& dd) {
               "lower_range_value", "damping_value", "write_protect", Byte(250),
               "analog_channel_flags"})
       .Codes(hart::ReadCodes());
-  // HART command 16
-  dd.Command("read_final_assembly_number", 16, Operation::Read)
-      .Reply({"final_assembly_number"})
-      .Codes(hart::ReadCodes());
-  // HART command 20
-  dd.Command("read_long_tag", 20, Operation::Read).Reply({"long_tag"}).Codes(hart::ReadCodes());
+  // HART command 6
+  dd.Command("write_polling_address", 6, Operation::Write)
+      .Request({"polling_address", "loop_current_mode"})
+      .Reply({"polling_address", "loop_current_mode"})
+      .Codes(hart::WriteCodes({hart::InvalidSelection(),
+                               {12, ResponseCodeType::DataEntryError,
+                                "Invalid mode selection|de|Ungültige Betriebsart"}}));
 }
 
 // HART command 48, with the first six device-specific bytes
@@ -156,12 +118,14 @@ void DescribeAdditionalStatus(DeviceDescription& dd) {
 
 }  // namespace
 
-void DescribeUniversalReadCommands(DeviceDescription& dd) {
+void DescribeUniversalCommands(DeviceDescription& dd) {
   DescribeIdentification(dd);
-  DescribeMeasurement(dd);
+  hart::DescribeMeasurementCommands(dd);
   DescribeDeviceVariablesWithStatus(dd);
-  DescribeNamesAndSettings(dd);
+  hart::DescribeNameCommands(dd);
+  DescribeSettings(dd);
   DescribeAdditionalStatus(dd);
+  hart::DescribeWriteCommands(dd);
 }
 
 }  // namespace sampletemperature

@@ -1,8 +1,9 @@
+#include "common/FixedLoopCurrent.h"
+#include "common/HartItems.h"
 #include "common/HartMethods.h"
-#include "sampletemperature/FixedLoopCurrent.h"
 
 // Methods that fix the loop current and compare it with a meter.
-namespace sampletemperature {
+namespace hart {
 namespace {
 
 constexpr double kZeroCurrent = 4;   // mA
@@ -40,12 +41,12 @@ bool ChooseCurrent(IDDBuiltinLib& dd, double& current) {
     current = choice == kZero ? kZeroCurrent : kSpanCurrent;
     return true;
   }
-  return hart::AskNumber(dd, "Current in mA (3.5 to 23)|de|Strom in mA (3,5 bis 23)", {},
-                         kLeastCurrent, kGreatestCurrent, current);
+  return AskNumber(dd, "Current in mA (3.5 to 23)|de|Strom in mA (3,5 bis 23)", {}, kLeastCurrent,
+                   kGreatestCurrent, current);
 }
 
 void TestLoop(IDDBuiltinLib& dd) {
-  hart::JudgeReplies(dd);
+  JudgeReplies(dd);
   if (!WarnOfControl(dd)) return;
   FixedLoopCurrent loop(dd);
   double current = kZeroCurrent;
@@ -68,17 +69,17 @@ bool TrimAt(IDDBuiltinLib& dd, FixedLoopCurrent& loop, double current, std::int1
   const std::int16_t id = dd.VARID("fixed_loop_current");
   for (;;) {
     double reading = current;
-    if (!hart::AskNumber(dd, "Reading of the meter in mA|de|Anzeige des Messgeräts in mA", {},
-                         kLeastCurrent, kGreatestCurrent, reading)) {
+    if (!AskNumber(dd, "Reading of the meter in mA|de|Anzeige des Messgeräts in mA", {},
+                   kLeastCurrent, kGreatestCurrent, reading)) {
       return false;
     }
     dd.AssignFloat("measured_loop_current", static_cast<float>(reading));
-    hart::CarryOut(dd, trimCommand);
+    CarryOut(dd, trimCommand);
     if (dd.IsAbort()) return false;
-    if (hart::Confirm(dd,
-                      "Does the meter show %[.3f]{0} mA now?|de|"
-                      "Zeigt das Messgerät jetzt %[.3f]{0} mA?",
-                      {id})) {
+    if (Confirm(dd,
+                "Does the meter show %[.3f]{0} mA now?|de|"
+                "Zeigt das Messgerät jetzt %[.3f]{0} mA?",
+                {id})) {
       return true;
     }
     if (dd.IsAbort()) return false;
@@ -88,7 +89,7 @@ bool TrimAt(IDDBuiltinLib& dd, FixedLoopCurrent& loop, double current, std::int1
 void TrimLoopCurrent(IDDBuiltinLib& dd) {
   constexpr std::int16_t kTrimZero = 45;  // HART command numbers
   constexpr std::int16_t kTrimGain = 46;
-  hart::JudgeReplies(dd);
+  JudgeReplies(dd);
   if (!WarnOfControl(dd)) return;
   dd.Acknowledge(
       "Connect a reference meter to the loop.|de|"
@@ -101,25 +102,20 @@ void TrimLoopCurrent(IDDBuiltinLib& dd) {
   TellReturn(dd);
 }
 
-// In multi-drop mode the current carries no measurement.
-bool HasLoopCurrent(Context& context) {
-  return context.Long("loop_current_mode") != 0;
-}
-
 }  // namespace
 
-void DescribeLoopMethods(DeviceDescription& dd) {
+void DescribeLoopMethods(DeviceDescription& dd, const Condition& hasLoopCurrent) {
   DescribeLoopRelease(dd);
   dd.Method("loop_test")
       .Label("Loop test|de|Schleifentest")
       .Help("Holds the loop current at chosen values|de|Hält den Schleifenstrom auf festen Werten")
       .Body(TestLoop)
-      .ValidWhen(HasLoopCurrent);
+      .ValidWhen(hasLoopCurrent);
   dd.Method("loop_current_trim")
       .Label("Loop current trim|de|Abgleich des Schleifenstroms")
       .Help("Trims 4 mA and 20 mA by a meter|de|Gleicht 4 mA und 20 mA mit einem Messgerät ab")
       .Body(TrimLoopCurrent)
-      .ValidWhen(HasLoopCurrent);
+      .ValidWhen(hasLoopCurrent);
 }
 
-}  // namespace sampletemperature
+}  // namespace hart

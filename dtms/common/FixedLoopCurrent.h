@@ -2,9 +2,9 @@
 
 #include <optional>
 
-#include "sampletemperature/Description.h"
+#include "dtmkit/dtmkit.h"
 
-namespace sampletemperature {
+namespace hart {
 
 // The loop current held at values of the user's choice (HART command 40) by one run of a method.
 // From the first request on the device follows its measurement again whenever the method ends: by
@@ -12,7 +12,7 @@ namespace sampletemperature {
 class FixedLoopCurrent {
  public:
   // `dd` outlives it and judges replies (hart::JudgeReplies).
-  explicit FixedLoopCurrent(IDDBuiltinLib& dd) : dd_(dd) {}
+  explicit FixedLoopCurrent(ZAFHartTypes::IDDBuiltinLib& dd) : dd_(dd) {}
 
   // False when the device refuses, which leaves the current as it was, and when the method is
   // aborted.
@@ -21,8 +21,11 @@ class FixedLoopCurrent {
   bool Release();
 
  private:
-  IDDBuiltinLib& dd_;
-  std::optional<AbortGuard> guard_;
+  ZAFHartTypes::IDDBuiltinLib& dd_;
+  std::optional<ZAFHartTypes::dtmkit::AbortGuard> guard_;
 };
 
-}  // namespace sampletemperature
+// The abort method; it is on no menu.
+void DescribeLoopRelease(ZAFHartTypes::dtmkit::DeviceDescription& dd);
+
+}  // namespace hart
