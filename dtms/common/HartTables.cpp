@@ -106,7 +106,8 @@ const Enums& DeviceVariableClassifications() {
                                         {86, "Angle|de|Winkel"},
                                         {87, "Conductance|de|Leitwert"},
                                         {98, "Temperature difference|de|Temperaturdifferenz"},
-                                        {111, "Miscellaneous|de|Verschiedenes"}});
+                                        {111, "Miscellaneous|de|Verschiedenes"},
+                                        {250, "Not used|de|Nicht benutzt"}});
   return codes;
 }
 

@@ -18,23 +18,29 @@ using dtmkit::VariableNamed;
 
 inline const std::filesystem::path kDtmFolder = ZAF_DTM_FOLDER;
 
-// The sample DTM, loaded as a plug-in, on an emulated transmitter with the demo device's memory.
-class SampleDtm {
+// A DTM that ships with the library, loaded as a plug-in, on an emulated device with the memory of
+// one of its files.
+class DtmOnDevice {
  public:
-  SampleDtm() {
-    device_->UseFile(kDtmFolder / "demo-device.txt",
-                     HartLinkSim::EmulatedDevice::SaveMode::OnDemand);  // never saved
+  DtmOnDevice(const std::string& project, const std::string& file) {
+    if (!file.empty()) {
+      device_->UseFile(kDtmFolder / file,
+                       HartLinkSim::EmulatedDevice::SaveMode::OnDemand);  // never saved
+    }
     ZAFHartLib::RegisterLibraryClasses(platform_.Classes());
     platform_.Classes().SetPluginPath({kDtmFolder});
-    components_->SetDataModelClass("SampleTemperature.DataModel");
+    components_->SetDataModelClass(project + ".DataModel");
     components_->SetCommWrapperClass("ZAFHartLib.CDDTestCommWrapper");
     components_->Initialize();
-    std::dynamic_pointer_cast<ILinkUser>(components_->HARTComm())
-        ->SetLink(std::make_shared<HartLinkSim::DeviceLink>(device_));
+    UseLink(std::make_shared<HartLinkSim::DeviceLink>(device_));
   }
-  ~SampleDtm() { components_->PrepareTermination(); }
-  SampleDtm(const SampleDtm&) = delete;
-  SampleDtm& operator=(const SampleDtm&) = delete;
+  ~DtmOnDevice() { components_->PrepareTermination(); }
+  DtmOnDevice(const DtmOnDevice&) = delete;
+  DtmOnDevice& operator=(const DtmOnDevice&) = delete;
+
+  void UseLink(std::shared_ptr<ILink> link) {
+    std::dynamic_pointer_cast<ILinkUser>(components_->HARTComm())->SetLink(std::move(link));
+  }
 
   void Upload() {
     Definition menu;
@@ -54,6 +60,12 @@ class SampleDtm {
   std::shared_ptr<HartLinkSim::EmulatedDevice> device_ =
       std::make_shared<HartLinkSim::EmulatedDevice>();
   std::shared_ptr<ZAFHartLib::CDDComponents> components_ = ZAFHartLib::CDDComponents::Create();
+};
+
+// The sample DTM on the demo device.
+class SampleDtm : public DtmOnDevice {
+ public:
+  SampleDtm() : DtmOnDevice("SampleTemperature", "demo-device.txt") {}
 };
 
 class SampleDevice : public testing::Test, public SampleDtm {};

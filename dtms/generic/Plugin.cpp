@@ -1,0 +1,5 @@
+#include "dtmkit/Plugin.h"
+
+#include "generic/Generic.h"
+
+ZAF_DTM_PLUGIN("Generic", generic::DataModel, generic::KernelInformation)
