@@ -1,4 +1,5 @@
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include <stdexcept>
 #include <string>
@@ -185,6 +186,96 @@ TEST_F(MessageLoopTest, TheHostRunsItsEventsInPumpsAndWaits) {
   loop->WaitStep(20ms);
   EXPECT_EQ(host.ran, (std::vector<Milliseconds>{1000ms, 1005ms, 1025ms}));
   EXPECT_EQ(clock.Now(), 1008ms);
+}
+
+// A pipe, whose reading end is watched.
+struct PipeTest : MessageLoopTest {
+  int ends[2] = {-1, -1};
+  PipeTest() { EXPECT_EQ(pipe(ends), 0); }
+  ~PipeTest() override {
+    for (const int end : ends) close(end);
+  }
+  void Send() const { EXPECT_EQ(write(ends[1], "x", 1), 1); }
+  MessageLoop::Handler Take(char c) {
+    return [this, c] {
+      char byte = 0;
+      EXPECT_EQ(read(ends[0], &byte, 1), 1);
+      log += c;
+    };
+  }
+  WatchedDescriptor Reader() const { return {ends[0], Readiness::Readable}; }
+};
+
+TEST_F(PipeTest, RunsHandlersWhileTheirDescriptorIsReady) {
+  auto reader = loop->Watch(Reader(), Take('r'));
+  const auto writer = loop->Watch({ends[1], Readiness::Writable}, Log('w'));
+  EXPECT_TRUE(loop->Pump());
+  EXPECT_EQ(log, "w");
+  Send();
+  Send();
+  loop->WaitStep(20ms);
+  loop->WaitStep(20ms);
+  EXPECT_EQ(log, "wrwrw");
+  EXPECT_EQ(clock.Now(), 1000ms);  // nothing slept: there was work
+  reader.Cancel();
+  Send();
+  EXPECT_TRUE(loop->Pump());
+  EXPECT_EQ(log, "wrwrww");
+}
+
+TEST_F(PipeTest, SleepsUntilSomethingIsDueWhenNothingIsReady) {
+  const auto reader = loop->Watch(Reader(), Take('r'));
+  const auto once = loop->StartOnce(5ms, Log('o'));
+  loop->WaitStep(20ms);
+  EXPECT_EQ(log, "o");
+  EXPECT_EQ(clock.Now(), 1005ms);
+}
+
+TEST_F(PipeTest, AHandlerThatWaitsOrCancelsItselfIsNotEntered) {
+  Subscription reader;
+  reader = loop->Watch(Reader(), [&] {
+    log += '(';
+    loop->WaitStep(20ms);
+    reader.Cancel();
+    log += ')';
+  });
+  Send();
+  loop->WaitStep(20ms);
+  EXPECT_EQ(log, "()");
+  EXPECT_FALSE(loop->RunReady());
+}
+
+struct WatchingHost : HostLoop {
+  bool watches = false;
+  std::size_t watched = 0;
+  void OnNextDueChanged() override {}
+  void RunHostEvents(Milliseconds) override {}
+  bool OnDescriptorsChanged(std::span<const WatchedDescriptor> descriptors) override {
+    watched = descriptors.size();
+    return watches;
+  }
+};
+
+TEST_F(PipeTest, AHostWatchesOrTheLoopLooksEveryTenMilliseconds) {
+  WatchingHost host;
+  auto reader = loop->Watch(Reader(), Take('r'));
+  loop->SetHostLoop(&host);
+  EXPECT_EQ(host.watched, 1U);
+  EXPECT_EQ(loop->NextDue(), 1010ms);
+  Send();
+  clock.Advance(10ms);
+  EXPECT_TRUE(loop->RunDue());
+  EXPECT_EQ(log, "r");
+
+  host.watches = true;
+  loop->SetHostLoop(&host);
+  EXPECT_EQ(loop->NextDue(), std::nullopt);
+  Send();
+  EXPECT_TRUE(loop->RunReady());
+  EXPECT_EQ(log, "rr");
+  reader.Cancel();
+  EXPECT_EQ(host.watched, 0U);
+  loop->SetHostLoop(nullptr);
 }
 
 }  // namespace

@@ -20,7 +20,7 @@ bool EndsPass(std::int32_t result) {
 void WriteChangesOperation::Run() {
   OnFailure restore([this] { EndProgress(); });
   if (ProgressTitle().empty()) SetProgressTitle(ResText(idWriteChanges));
-  const DefinitionList variables = PendingVariables();
+  const DefinitionList variables = OwnDatabase()->Marked(VariableMark::ToBeWritten);
   {
     Gui()->StopCurrentEditing();
     CLockObject lock;
@@ -31,15 +31,6 @@ void WriteChangesOperation::Run() {
   }
   EndProgress();
   restore.Done();
-}
-
-DefinitionList WriteChangesOperation::PendingVariables() const {
-  DefinitionList variables;
-  for (const auto& object : Database()->NewEnum()) {
-    const auto variable = object->MakeVariable();
-    if (variable && variable->ToBeWritten()) variables.Add(variable->Definition());
-  }
-  return variables;
 }
 
 // A variable waits while one that it depends on is still to be written. Circles of dependencies

@@ -15,7 +15,6 @@ class WriteChangesOperation : public DataSetOperation {
     std::size_t deferred = 0;
     bool wroteSomething = false;
   };
-  ZAFHartTypes::DefinitionList PendingVariables() const;
   void WriteInPasses(const ZAFHartTypes::DefinitionList& variables) const;
   Pass RunPass(const ZAFHartTypes::DefinitionList& variables, const StateCounter& pending) const;
   bool HasPendingDependency(const ZAFHartTypes::Variable& variable) const;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <bit>
+#include <cstdint>
 #include <utility>
 #include <vector>
 
@@ -22,7 +23,7 @@ class KeyedList {
     if (2 * items_.size() > slots_.size()) {
       BuildIndex();
     } else {
-      slots_[SlotOf(key)] = items_.size();
+      slots_[SlotOf(key)] = static_cast<Slot>(items_.size());
     }
   }
   bool Contains(TextKey key) const { return PositionOf(key) != kNone; }
@@ -64,7 +65,8 @@ class KeyedList {
   auto end() const { return items_.end(); }
 
  private:
-  static constexpr std::size_t kNone = 0;
+  using Slot = std::uint32_t;  // a position
+  static constexpr Slot kNone = 0;
 
   std::size_t PositionOf(TextKey key) const { return slots_.empty() ? kNone : slots_[SlotOf(key)]; }
   // The slot that holds the key's position, or the free one that would. At least half of all slots
@@ -79,12 +81,12 @@ class KeyedList {
     constexpr std::size_t kFewest = 8;
     slots_.assign(std::bit_ceil(std::max(kFewest, 4 * items_.size())), kNone);
     for (std::size_t position = 1; position <= items_.size(); ++position) {
-      slots_[SlotOf(items_[position - 1].first)] = position;
+      slots_[SlotOf(items_[position - 1].first)] = static_cast<Slot>(position);
     }
   }
 
   std::vector<std::pair<TextKey, Item>> items_;
-  std::vector<std::size_t> slots_;  // a power of two; look-ups touch one slot and one item
+  std::vector<Slot> slots_;  // a power of two; look-ups touch one slot and one item
 };
 
 }  // namespace ZAFHartTypes

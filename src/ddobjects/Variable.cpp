@@ -32,6 +32,18 @@ VariableBlock& Variable::EditBlock() {
   return const_cast<VariableBlock&>(*block_);
 }
 
+const DefinitionList& Variable::Actions(ActionList list) const {
+  static const DefinitionList kNone;
+  const auto& actions = block_->actions;
+  return actions.empty() ? kNone : actions[static_cast<std::size_t>(list)];
+}
+
+DefinitionList& Variable::EditActions(ActionList list) {
+  auto& actions = EditBlock().actions;
+  actions.resize(kActionListCount);
+  return actions[static_cast<std::size_t>(list)];
+}
+
 void Variable::SetHandling(bool readable, bool writable) {
   VariableBlock& block = EditBlock();
   block.readable = readable;

@@ -24,7 +24,7 @@ struct VariableBlock {
   SharedText label;
   SharedText help;
   SharedText fixedUnitText;
-  DefinitionList actions[kActionListCount];
+  std::vector<DefinitionList> actions;  // one list each, or none: few variables have actions
 
   friend bool operator==(const VariableBlock&, const VariableBlock&) = default;
 };
@@ -82,12 +82,8 @@ class Variable : public DDObject {
     return mode == AccessMode::Read ? block_->readable : block_->writable;
   }
   void SetHandling(bool readable, bool writable);
-  const DefinitionList& Actions(ActionList list) const {
-    return block_->actions[static_cast<std::size_t>(list)];
-  }
-  DefinitionList& EditActions(ActionList list) {
-    return EditBlock().actions[static_cast<std::size_t>(list)];
-  }
+  const DefinitionList& Actions(ActionList list) const;
+  DefinitionList& EditActions(ActionList list);
   const DefinitionList& PreEditActions() const { return Actions(ActionList::PreEdit); }
   const DefinitionList& PostEditActions() const { return Actions(ActionList::PostEdit); }
   const DefinitionList& PreReadActions() const { return Actions(ActionList::PreRead); }

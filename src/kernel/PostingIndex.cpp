@@ -3,11 +3,24 @@
 #include <algorithm>
 
 namespace ZAFHartLib {
+namespace {
+
+void Insert(std::vector<std::size_t>& ascending, std::size_t position) {
+  const auto place = std::lower_bound(ascending.begin(), ascending.end(), position);
+  if (place == ascending.end() || *place != position) ascending.insert(place, position);
+}
+
+void Erase(std::vector<std::size_t>& ascending, std::size_t position) {
+  const auto place = std::lower_bound(ascending.begin(), ascending.end(), position);
+  if (place != ascending.end() && *place == position) ascending.erase(place);
+}
+
+}  // namespace
 
 void PostingIndex::Reset(std::size_t count) {
   entries_.assign(count, {});
-  postings_.clear();
-  watchers_.clear();
+  postings_.Clear();
+  watchers_.Clear();
   suspects_.clear();
   for (std::size_t position = 0; position < count; ++position) suspects_.insert(position);
 }
@@ -39,34 +52,32 @@ void PostingIndex::Replace(PositionsByKey& map, std::vector<Key>& old, std::vect
                            std::size_t position) {
   if (old == now) return;
   for (const Key key : old) {
-    const auto found = map.find(key);
-    if (found == map.end()) continue;
-    found->second.erase(position);
-    if (found->second.empty()) map.erase(found);
+    if (Positions* positions = map.Find(key)) Erase(*positions, position);
   }
-  for (const Key key : now) map[key].insert(position);
+  for (const Key key : now) {
+    if (!map.Contains(key)) map.Add(key, {});
+    Insert(*map.Find(key), position);
+  }
   old = std::move(now);
 }
 
 void PostingIndex::ObjectStale(Key object) {
-  const auto found = watchers_.find(object);
-  if (found == watchers_.end()) return;
-  for (const std::size_t position : found->second) Suspect(position);
+  const Positions* watching = watchers_.Find(object);
+  if (!watching) return;
+  for (const std::size_t position : *watching) Suspect(position);
 }
 
 std::size_t PostingIndex::Next(Key key, std::size_t from) const {
-  const auto found = postings_.find(key);
-  const std::size_t posted = found == postings_.end() ? kNone : FirstFrom(found->second, from);
-  return std::min(posted, NextSuspect(from));
+  const Positions* positions = postings_.Find(key);
+  const std::size_t suspect = NextSuspect(from);
+  if (!positions) return suspect;
+  const auto posted = std::lower_bound(positions->begin(), positions->end(), from);
+  return posted == positions->end() ? suspect : std::min(*posted, suspect);
 }
 
 std::size_t PostingIndex::NextSuspect(std::size_t from) const {
-  return FirstFrom(suspects_, from);
-}
-
-std::size_t PostingIndex::FirstFrom(const Positions& positions, std::size_t from) {
-  const auto found = positions.lower_bound(from);
-  return found == positions.end() ? kNone : *found;
+  const auto found = suspects_.lower_bound(from);
+  return found == suspects_.end() ? kNone : *found;
 }
 
 }  // namespace ZAFHartLib

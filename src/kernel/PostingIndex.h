@@ -3,10 +3,9 @@
 #include <cstddef>
 #include <cstdint>
 #include <set>
-#include <unordered_map>
 #include <vector>
 
-#include "types/TextKey.h"
+#include "ddobjects/KeyedList.h"
 
 namespace ZAFHartLib {
 
@@ -38,8 +37,8 @@ class PostingIndex {
   std::size_t NextSuspect(std::size_t from) const;
 
  private:
-  using Positions = std::set<std::size_t>;
-  using PositionsByKey = std::unordered_map<Key, Positions, ZAFHartTypes::TextKeyHash>;
+  using Positions = std::vector<std::size_t>;  // ascending, few as a rule
+  using PositionsByKey = ZAFHartTypes::KeyedList<Positions>;
   struct Entry {
     std::vector<Key> keys;
     std::vector<Key> watched;
@@ -47,12 +46,11 @@ class PostingIndex {
   };
   static void Replace(PositionsByKey& map, std::vector<Key>& old, std::vector<Key> now,
                       std::size_t position);
-  static std::size_t FirstFrom(const Positions& positions, std::size_t from);
 
   std::vector<Entry> entries_;
   PositionsByKey postings_;
   PositionsByKey watchers_;
-  Positions suspects_;
+  std::set<std::size_t> suspects_;
 };
 
 }  // namespace ZAFHartLib

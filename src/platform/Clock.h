@@ -21,6 +21,8 @@ class Clock {
   virtual Milliseconds CoarseNow() { return Now(); }
   // Blocks the thread; a manual clock moves on instead.
   virtual void Sleep(Milliseconds duration) = 0;
+  // Sleep takes time by itself; a manual clock's does not, and waits for nothing else either.
+  virtual bool SleepBlocks() const { return true; }
   // Date and time of day, UTC.
   virtual std::chrono::system_clock::time_point WallTime() = 0;
 
@@ -36,6 +38,7 @@ class ManualClock : public Clock {
   explicit ManualClock(Milliseconds start = Milliseconds{1'000'000});
   Milliseconds Now() override { return now_; }
   void Sleep(Milliseconds duration) override { now_ += duration; }
+  bool SleepBlocks() const override { return false; }
   std::chrono::system_clock::time_point WallTime() override;
   void Advance(Milliseconds duration) { now_ += duration; }
 

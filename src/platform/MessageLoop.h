@@ -5,12 +5,14 @@
 #include <optional>
 
 #include "platform/Clock.h"
+#include "platform/Descriptors.h"
 #include "platform/Failure.h"
 
 namespace platform {
 
-// Handle of a timer or of a posted event. Destroying or cancelling it takes the handler back; a
-// handler may cancel itself while it runs. Outliving the loop is harmless.
+// Handle of a timer, of a posted event or of a watched descriptor. Destroying or cancelling it
+// takes the handler back; a handler may cancel itself while it runs. Outliving the loop is
+// harmless.
 class Subscription {
  public:
   class State;
@@ -36,11 +38,15 @@ class HostLoop {
   virtual void OnNextDueChanged() = 0;
   // Runs the host's events until `until` (Clock::Now() time) at the latest; may return earlier.
   virtual void RunHostEvents(Milliseconds until) = 0;
+  // The descriptors to watch from now on: call RunReady() when one of them is ready. False (the
+  // default): the host does not watch them, and the loop looks at them every 10 ms by a timer.
+  virtual bool OnDescriptorsChanged(std::span<const WatchedDescriptor> watched);
 };
 
-// Posted events and timers of one thread. Everything the library does in the background runs from
-// here. A handler that is on the stack is not entered again: its ticks coalesce into one. A Failure
-// that leaves a handler goes to the failure sink, never into the operation that waits.
+// Posted events, timers and watched file descriptors of one thread. Everything the library does in
+// the background runs from here. A handler that is on the stack is not entered again: its ticks
+// coalesce into one. A Failure that leaves a handler goes to the failure sink, never into the
+// operation that waits.
 class MessageLoop {
  public:
   using Handler = std::function<void()>;
@@ -51,7 +57,7 @@ class MessageLoop {
   MessageLoop(const MessageLoop&) = delete;
   MessageLoop& operator=(const MessageLoop&) = delete;
 
-  // The three calls raise InvalidArgument for an empty handler.
+  // The calls that take a handler raise InvalidArgument for an empty one.
   // Runs `handler` once at the next pump, in the order of posting.
   [[nodiscard]] Subscription Post(Handler handler);
   // Runs `handler` every `interval` (at least 1 ms), first after one interval. A late tick stands
@@ -59,12 +65,15 @@ class MessageLoop {
   [[nodiscard]] Subscription StartTimer(Milliseconds interval, Handler handler);
   // Runs `handler` once, after `delay`.
   [[nodiscard]] Subscription StartOnce(Milliseconds delay, Handler handler);
+  // Runs `handler` whenever the descriptor is ready, as long as it is: the handler has to take what
+  // came or to cancel. Cancel before the descriptor is closed.
+  [[nodiscard]] Subscription Watch(WatchedDescriptor watched, Handler handler);
 
-  // Runs what was due when it was called (not what the handlers add). With a host loop, lets the
-  // host run its pending events as well. True when a handler ran.
+  // Runs what was due or ready when it was called (not what the handlers add). With a host loop,
+  // lets the host run its pending events as well. True when a handler ran.
   bool Pump();
-  // A step of a nested wait: sleeps until something is due or a host event ends the sleep, at most
-  // `atMost`, then pumps.
+  // A step of a nested wait: sleeps until something is due or ready or a host event ends the sleep,
+  // at most `atMost`, then pumps.
   void WaitStep(Milliseconds atMost);
 
   // For a host with its own loop: when the next handler is due (Clock::Now() time; a moment in the
@@ -72,6 +81,8 @@ class MessageLoop {
   std::optional<Milliseconds> NextDue() const;
   // Runs what is due now, without the host's events.
   bool RunDue();
+  // Runs the handlers of the descriptors that are ready now; true when there was one.
+  bool RunReady();
   void SetHostLoop(HostLoop* host);
 
   // Where a Failure that leaves a handler goes; by default it is dropped.

@@ -11,6 +11,10 @@ platform::TickCount Ticks() {
   return platform::Current().GetClock().CoarseTicks();
 }
 
+bool Bears(const Variable& variable, VariableMark mark) {
+  return mark == VariableMark::Available ? variable.Available() : variable.ToBeWritten();
+}
+
 }  // namespace
 
 std::optional<std::int32_t> SecondsOf(const Variant& interval) {
@@ -71,6 +75,15 @@ void CDDWorkerDB::MissingChanged(ZAFHartTypes::TextKey variable, bool missing) {
   });
 }
 
+DefinitionList CDDWorkerDB::Marked(VariableMark mark) const {
+  DefinitionList marked;
+  for (const auto& [name, entry] : objects_) {
+    const Variable* variable = ViewOf<Variable>(entry);
+    if (variable && Bears(*variable, mark)) marked.Add(variable->Definition());
+  }
+  return marked;
+}
+
 std::shared_ptr<StateCounter> CDDWorkerDB::CountMarked(VariableMark mark,
                                                        const DefinitionList& definitions) {
   auto counter = std::make_shared<StateCounter>(mark);
@@ -81,9 +94,7 @@ std::shared_ptr<StateCounter> CDDWorkerDB::CountMarked(VariableMark mark,
 
 void CDDWorkerDB::Watch(StateCounter& counter, const Definition& variable) const {
   const Variable* stored = Stored<Variable>(variable);
-  const bool marked = stored && (counter.Mark() == VariableMark::Available ? stored->Available()
-                                                                           : stored->ToBeWritten());
-  counter.Watch(variable.Key(), marked);
+  counter.Watch(variable.Key(), stored && Bears(*stored, counter.Mark()));
 }
 
 void CDDWorkerDB::CountMark(VariableMark mark, ZAFHartTypes::TextKey variable, bool marked) {

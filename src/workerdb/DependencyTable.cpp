@@ -5,20 +5,20 @@
 namespace ZAFHartLib {
 
 bool DependencyTable::Connect(TextKey object, TextKey variable, Relation relation) {
-  std::uint8_t& relations = nodes_[variable].objects[object];
+  std::uint8_t& relations = NodeOf(variable).objects[object];
   if ((relations & relation) != 0) return false;
   relations = static_cast<std::uint8_t>(relations | relation);
-  nodes_[object].variables.insert(variable);
+  NodeOf(object).variables.insert(variable);
   return true;
 }
 
-const DependencyTable::Node* DependencyTable::Find(TextKey key) const {
-  const auto found = nodes_.find(key);
-  return found == nodes_.end() ? nullptr : &found->second;
+DependencyTable::Node& DependencyTable::NodeOf(TextKey key) {
+  if (!nodes_.Contains(key)) nodes_.Add(key, {});
+  return *nodes_.Find(key);
 }
 
 void DependencyTable::AddDependency(TextKey object, TextKey variable, bool missing) {
-  if (Connect(object, variable, kDependency) && missing) ++nodes_[object].missing;
+  if (Connect(object, variable, kDependency) && missing) ++NodeOf(object).missing;
 }
 
 void DependencyTable::AddDependent(TextKey object, TextKey variable) {
@@ -31,7 +31,7 @@ void DependencyTable::Inherit(TextKey object, TextKey source,
   if (!node || object == source) return;
   const std::vector<TextKey> variables(node->variables.begin(), node->variables.end());
   for (const TextKey variable : variables) {
-    const std::uint8_t relations = nodes_[variable].objects[source];
+    const std::uint8_t relations = NodeOf(variable).objects[source];
     // An object whose own value is missing is computed all the same.
     const bool awaits = (relations & kDependency) != 0 && variable != object;
     if (awaits) AddDependency(object, variable, isMissing(variable));
@@ -45,16 +45,16 @@ bool DependencyTable::IsDependent(TextKey object, TextKey variable) const {
 }
 
 void DependencyTable::Clear(TextKey object) {
-  const auto found = nodes_.find(object);
-  if (found == nodes_.end()) return;
-  for (const TextKey variable : found->second.variables) nodes_[variable].objects.erase(object);
-  found->second.variables.clear();
-  found->second.missing = 0;
+  Node* node = nodes_.Find(object);
+  if (!node) return;
+  for (const TextKey variable : node->variables) nodes_.Find(variable)->objects.erase(object);
+  node->variables.clear();
+  node->missing = 0;
 }
 
 void DependencyTable::VariableMissing(TextKey variable, bool missing) {
   ForEachWithDependency(variable,
-                        [&](TextKey object) { nodes_[object].missing += missing ? 1 : -1; });
+                        [&](TextKey object) { nodes_.Find(object)->missing += missing ? 1 : -1; });
 }
 
 bool DependencyTable::HasMissing(TextKey object) const {
@@ -63,17 +63,17 @@ bool DependencyTable::HasMissing(TextKey object) const {
 }
 
 void DependencyTable::DropDependencies(TextKey object) {
-  const auto found = nodes_.find(object);
-  if (found == nodes_.end()) return;
-  std::erase_if(found->second.variables, [&](TextKey variable) {
-    auto& objects = nodes_[variable].objects;
+  Node* node = nodes_.Find(object);
+  if (!node) return;
+  std::erase_if(node->variables, [&](TextKey variable) {
+    auto& objects = nodes_.Find(variable)->objects;
     std::uint8_t& relations = objects[object];
     relations = static_cast<std::uint8_t>(relations & ~kDependency);
     if (relations != 0) return false;
     objects.erase(object);
     return true;
   });
-  found->second.missing = 0;
+  node->missing = 0;
 }
 
 }  // namespace ZAFHartLib

@@ -5,7 +5,7 @@
 #include <unordered_map>
 #include <unordered_set>
 
-#include "types/TextKey.h"
+#include "ddobjects/KeyedList.h"
 
 namespace ZAFHartLib {
 
@@ -17,7 +17,7 @@ class DependencyTable {
  public:
   using TextKey = ZAFHartTypes::TextKey;
 
-  bool IsEmpty() const { return nodes_.empty(); }
+  bool IsEmpty() const { return nodes_.IsEmpty(); }
   // `missing`: the variable is stored and not available at present.
   void AddDependency(TextKey object, TextKey variable, bool missing);
   void AddDependent(TextKey object, TextKey variable);
@@ -57,7 +57,7 @@ class DependencyTable {
 
   // False when they stood in that relation before.
   bool Connect(TextKey object, TextKey variable, Relation relation);
-  const Node* Find(TextKey key) const;
+  const Node* Find(TextKey key) const { return nodes_.Find(key); }
 
   template <typename Visit>
   void ForEach(TextKey variable, Relation relation, Visit& visit) const {
@@ -68,7 +68,9 @@ class DependencyTable {
     }
   }
 
-  std::unordered_map<TextKey, Node, Hash> nodes_;
+  Node& NodeOf(TextKey key);
+
+  ZAFHartTypes::KeyedList<Node> nodes_;
 };
 
 }  // namespace ZAFHartLib

@@ -2,9 +2,8 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <unordered_map>
 
-#include "types/TextKey.h"
+#include "ddobjects/KeyedList.h"
 
 namespace ZAFHartLib {
 
@@ -26,20 +25,23 @@ class StateCounter {
   // --- for the worker database ---
   void Watch(ZAFHartTypes::TextKey variable, bool marked) {
     ++watched_;
-    ++timesWatched_[variable];
+    if (std::size_t* times = timesWatched_.Find(variable)) {
+      ++*times;
+    } else {
+      timesWatched_.Add(variable, 1);
+    }
     if (marked) ++count_;
   }
   void MarkChanged(ZAFHartTypes::TextKey variable, bool marked) {
-    const auto found = timesWatched_.find(variable);
-    if (found == timesWatched_.end()) return;
-    count_ = marked ? count_ + found->second : count_ - found->second;
+    const std::size_t* times = timesWatched_.Find(variable);
+    if (times) count_ = marked ? count_ + *times : count_ - *times;
   }
 
  private:
   VariableMark mark_;
   std::size_t count_ = 0;
   std::size_t watched_ = 0;
-  std::unordered_map<ZAFHartTypes::TextKey, std::size_t, ZAFHartTypes::TextKeyHash> timesWatched_;
+  ZAFHartTypes::KeyedList<std::size_t> timesWatched_;
 };
 
 }  // namespace ZAFHartLib
