@@ -1,0 +1,7 @@
+#include "links/LinkClasses.h"
+
+namespace HartLinks {
+
+void RegisterLinkClasses(platform::ComponentClasses& /*classes*/) {}
+
+}  // namespace HartLinks
