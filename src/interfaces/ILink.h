@@ -109,4 +109,25 @@ class ILink {
   virtual void Cancel(const std::shared_ptr<Exchange>& exchange) = 0;
 };
 
+// Offered by links that can tell why an exchange had no reply.
+class ILinkStatus {
+ public:
+  virtual ~ILinkStatus() = default;
+  // What kept the last exchange from an answer ("cannot open /dev/ttyUSB0: …"), for users; "" when
+  // it had one, and when a device simply did not answer.
+  virtual std::string LastError() const = 0;
+};
+
+// Offered by links that ask a busy device again (response codes 32 to 36) instead of handing the
+// first such reply over.
+class IBusyRetrying {
+ public:
+  virtual ~IBusyRetrying() = default;
+  // Off unless the host has switched it on.
+  virtual bool RetriesBusy() const = 0;
+  // Times that a command is asked again, at least 1; counts from the next exchange on. The wrapper
+  // passes on "__ZAF__RETRYNO" while the policy is on.
+  virtual void SetBusyAttempts(int attempts) = 0;
+};
+
 }  // namespace ZAFHartTypes
