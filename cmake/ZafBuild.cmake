@@ -31,15 +31,15 @@ function(zaf_room name)
   file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/${name}/*.cpp)
   if(sources)
     add_library(zaf_room_${name} OBJECT ${sources})
-    target_include_directories(zaf_room_${name} PUBLIC ${CMAKE_SOURCE_DIR}/src)
+    target_include_directories(zaf_room_${name} PUBLIC ${PROJECT_SOURCE_DIR}/src)
     target_link_libraries(zaf_room_${name} PRIVATE zaf_settings)
   endif()
 endfunction()
 
 # zaf_test(<room>): the test program of one room, made of tests/<room>_*test.cpp.
 function(zaf_test room)
-  file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/${room}_*test.cpp
-       ${CMAKE_SOURCE_DIR}/tests/${room}_test.cpp)
+  file(GLOB sources CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/tests/${room}_*test.cpp
+       ${PROJECT_SOURCE_DIR}/tests/${room}_test.cpp)
   if(sources)
     list(REMOVE_DUPLICATES sources)
     add_executable(${room}_test ${sources})

@@ -1,7 +1,7 @@
 # Target headers_compile_alone: each header below src/ is compiled as if it were a source file of
 # its own, so that nobody who includes it must include something else first.
 
-file(GLOB_RECURSE headers CONFIGURE_DEPENDS RELATIVE ${CMAKE_SOURCE_DIR}/src ${CMAKE_SOURCE_DIR}/src/*.h)
+file(GLOB_RECURSE headers CONFIGURE_DEPENDS RELATIVE ${PROJECT_SOURCE_DIR}/src ${PROJECT_SOURCE_DIR}/src/*.h)
 
 set(stamps)
 foreach(header IN LISTS headers)
@@ -11,10 +11,10 @@ foreach(header IN LISTS headers)
   add_custom_command(
     OUTPUT ${stamp}
     COMMAND ${CMAKE_CXX_COMPILER} -std=c++${CMAKE_CXX_STANDARD} -fsyntax-only -Wall -Wextra -Werror
-            -I${CMAKE_SOURCE_DIR}/src -MD -MF ${stamp}.d -MT ${stamp}
-            -include ${CMAKE_SOURCE_DIR}/src/${header} -x c++ /dev/null
+            -I${PROJECT_SOURCE_DIR}/src -MD -MF ${stamp}.d -MT ${stamp}
+            -include ${PROJECT_SOURCE_DIR}/src/${header} -x c++ /dev/null
     COMMAND ${CMAKE_COMMAND} -E touch ${stamp}
-    DEPENDS ${CMAKE_SOURCE_DIR}/src/${header}
+    DEPENDS ${PROJECT_SOURCE_DIR}/src/${header}
     DEPFILE ${stamp}.d
     COMMENT "Compiling ${header} alone"
     VERBATIM)
