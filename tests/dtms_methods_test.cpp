@@ -137,7 +137,7 @@ const Script kScripts[] = {
      {290.0, 295.0, 400.0, hart::Date(25, 11, 2026), "J. Doe"},
      "9 136 14 1 1 1 1 1 82 1 1 1 1 1 82 137",
      "Trimmed at 290.00 K and 400.00 K."},
-    {"self_test", {1}, "41 48", "Service due"},
+    {"self_test", {1}, "41 48", "Apart from these messages"},
     {"show_status", {5, 0, 6, 7}, "48 48 48", "Status to show"},
     {"device_reset", {1}, "42 0", "The device has restarted."},
     {"watch_measurement", {2.0}, "1 2 1 2", "Sensor temperature: 300.50 K"},

@@ -13,6 +13,7 @@ constexpr std::int16_t kReadUniqueIdentifier = 0;  // HART command numbers
 constexpr std::int16_t kSelfTest = 41;
 constexpr std::int16_t kResetDevice = 42;
 constexpr std::uint8_t kColdStart = 0x20;  // device status
+constexpr std::uint8_t kMalfunction = 0x80;
 
 // The device's own bytes lead the data of command 48. True when there was something to show.
 bool ShowAdditionalStatus(IDDBuiltinLib& dd, const ByteBuffer& data) {
@@ -27,6 +28,16 @@ bool ShowAdditionalStatus(IDDBuiltinLib& dd, const ByteBuffer& data) {
   return hasShown;
 }
 
+const char* TestResult(std::uint8_t deviceStatus, bool hasShown) {
+  if ((deviceStatus & kMalfunction) != 0)
+    return "The device has found a malfunction.|de|Das Gerät hat eine Störung gefunden.";
+  if (hasShown) {
+    return "Apart from these messages the device has found no fault.|de|"
+           "Abgesehen von diesen Meldungen hat das Gerät keinen Fehler gefunden.";
+  }
+  return "The device has found no fault.|de|Das Gerät hat keinen Fehler gefunden.";
+}
+
 void TestDevice(IDDBuiltinLib& dd) {
   ShowEveryStatus(dd);
   if (!Confirm(dd,
@@ -39,8 +50,8 @@ void TestDevice(IDDBuiltinLib& dd) {
   if (!CarryOut(dd, kSelfTest, deviceStatus, additional)) return;
   if (deviceStatus != 0) dd.DisplayDeviceStatus(deviceStatus);
   if (dd.IsAbort()) return;
-  if (ShowAdditionalStatus(dd, additional) || deviceStatus != 0 || dd.IsAbort()) return;
-  dd.Acknowledge("The device has found no fault.|de|Das Gerät hat keinen Fehler gefunden.");
+  const bool hasShown = ShowAdditionalStatus(dd, additional) || deviceStatus != 0;
+  if (!dd.IsAbort()) dd.Acknowledge(TestResult(deviceStatus, hasShown));
 }
 
 void ResetDevice(IDDBuiltinLib& dd) {

@@ -1,5 +1,3 @@
-#include <cmath>
-
 #include "sampletemperature/Description.h"
 
 // What happens around the reading, editing and writing of single variables and edit displays. The
@@ -11,13 +9,6 @@ void WarnOfSensorChange(IDDBuiltinLib& dd) {
   dd.Acknowledge(
       "With another sensor the device changes its range, its units and its limits.|de|"
       "Mit einem anderen Sensor ändert das Gerät Messbereich, Einheiten und Grenzen.");
-}
-
-void UpdateSpan(IDDBuiltinLib& dd) {
-  const double span = dd.FloatValue("upper_range_value") - dd.FloatValue("lower_range_value");
-  if (dd.IsAbort()) return;
-  dd.AssignFloat("measuring_span", static_cast<float>(std::abs(span)));
-  dd.SaveValues();
 }
 
 // What was read last time, for comparison with what is about to be read.
@@ -54,7 +45,6 @@ void WarnOfMultiDrop(IDDBuiltinLib& dd) {
 void StartRange(IDDBuiltinLib& dd) {
   constexpr std::int16_t kReadTransducerInformation = 14;  // HART command number
   dd.SendCommand(kReadTransducerInformation);
-  if (!dd.IsAbort()) UpdateSpan(dd);
 }
 
 void CheckSpan(IDDBuiltinLib& dd) {
@@ -76,7 +66,6 @@ void DescribeActions(DeviceDescription& dd) {
     dd.Method(name).Label(std::move(label)).Body(std::move(body));
   };
   describe("warn_of_sensor_change", "Another sensor|de|Anderer Sensor", WarnOfSensorChange);
-  describe("update_span", "Measuring span|de|Messspanne", UpdateSpan);
   describe("keep_sensor_maximum", "Sensor maximum|de|Höchstwert", KeepSensorMaximum);
   describe("convert_operating_time", "Operating time|de|Betriebszeit", ConvertOperatingTime);
   describe("round_damping", "Damping|de|Dämpfung", RoundDamping);

@@ -1,3 +1,5 @@
+#include <cmath>
+
 #include "common/HartItems.h"
 #include "common/HartTables.h"
 #include "sampletemperature/Description.h"
@@ -32,7 +34,12 @@ void DescribeCalculated(DeviceDescription& dd) {
       .Format("8.2f")
       .Default(100.0F)
       .ReadOnly()
-      .Local();
+      .Local()
+      .OnCompute([](Context& context, Variable& variable) {
+        const double upper = context.Number("upper_range_value");
+        const double lower = context.Number("lower_range_value");
+        variable.SetValue(static_cast<float>(std::abs(upper - lower)));
+      });
   dd.Variable("operating_days")
       .Label("Operating days|de|Betriebstage")
       .Help("Days that the device has been powered|de|Tage, die das Gerät versorgt war")

@@ -19,10 +19,14 @@ VariableBuilder DescribeUnits(DeviceDescription& dd, std::string_view name) {
 
 void DescribeRangeVariables(DeviceDescription& dd) {
   hart::DescribeRangeVariables(dd);
-  DescribeUnits(dd, "transducer_limits_unit");
-  DescribeUnits(dd, "range_unit").Default(static_cast<std::int32_t>(hart::Unit::DegreesCelsius));
-  dd.Known("upper_range_value").Default(100.0F).Actions(ActionList::PostEdit, {"update_span"});
-  dd.Known("lower_range_value").Default(0.0F).Actions(ActionList::PostEdit, {"update_span"});
+  constexpr auto kCelsius = static_cast<std::int32_t>(hart::Unit::DegreesCelsius);
+  DescribeUnits(dd, "transducer_limits_unit").Default(kCelsius);
+  dd.Known("upper_transducer_limit").Default(1372.0F);  // of the default sensor
+  dd.Known("lower_transducer_limit").Default(-180.0F);
+  dd.Known("minimum_span").Default(50.0F);
+  DescribeUnits(dd, "range_unit").Default(kCelsius);
+  dd.Known("upper_range_value").Default(100.0F);
+  dd.Known("lower_range_value").Default(0.0F);
   dd.Known("damping_value")
       .Range(0.0F, 60.0F)
       .Default(0.0F)
