@@ -1,3 +1,5 @@
+#include <algorithm>
+#include <cmath>
 #include <string>
 
 #include "ddobjects/ItemArray.h"
@@ -16,14 +18,32 @@ using ZAFHartTypes::TypeInfo;
 using ZAFHartTypes::Variable;
 using ZAFHartTypes::Variant;
 
+std::string RangeSentence(const Variable& variable, const Variant& minimum, const Variant& maximum,
+                          const Speech& speech) {
+  return speech(Text::AllowedRange,
+                {QuestionText(variable, minimum, speech),
+                 WithUnit(variable, QuestionText(variable, maximum, speech), speech)});
+}
+
 std::string RangeText(const Variable& variable, std::int32_t range, const Speech& speech) {
   const Variant& minimum = variable.TypeInfo().MinValue(range);
   const Variant& maximum = variable.TypeInfo().MaxValue(range);
-  const auto show = [&](const Variant& limit) { return DisplayWithUnit(variable, limit, speech); };
+  const auto show = [&](const Variant& limit) {
+    return WithUnit(variable, QuestionText(variable, limit, speech), speech);
+  };
   if (minimum.IsEmpty() && maximum.IsEmpty()) return {};
   if (maximum.IsEmpty()) return speech(Text::AllowedFrom, {show(minimum)});
   if (minimum.IsEmpty()) return speech(Text::AllowedTo, {show(maximum)});
-  return speech(Text::AllowedRange, {DisplayValue(variable, minimum, speech), show(maximum)});
+  return RangeSentence(variable, minimum, maximum, speech);
+}
+
+// What its bytes can hold.
+std::string IntegerText(const Variable& variable, const Speech& speech) {
+  constexpr std::int32_t kMostBytes = 4;
+  const TypeInfo& type = variable.TypeInfo();
+  const double count = std::exp2(8 * std::clamp(type.Size(), 1, kMostBytes));
+  const double least = type.TypeCode() == TypeCode::Integer ? -count / 2 : 0;
+  return RangeSentence(variable, Variant(least), Variant(least + count - 1), speech);
 }
 
 std::string NumberText(const Variable& variable, const Speech& speech) {
@@ -34,8 +54,7 @@ std::string NumberText(const Variable& variable, const Speech& speech) {
     if (!limits.empty()) text += (text.empty() ? "" : " ") + limits;
   }
   if (!text.empty()) return text;
-  return IsIntegral(type.TypeCode()) ? speech(Text::AllowedInteger, {std::to_string(type.Size())})
-                                     : speech(Text::AllowedNumber);
+  return IsIntegral(type.TypeCode()) ? IntegerText(variable, speech) : speech(Text::AllowedNumber);
 }
 
 class Choices {

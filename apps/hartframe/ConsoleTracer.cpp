@@ -1,5 +1,6 @@
 #include "hartframe/ConsoleTracer.h"
 
+#include "hartframe/LanguageSegments.h"
 #include "hartframe/Speech.h"
 #include "platform/Platform.h"
 
@@ -14,6 +15,7 @@ constexpr const char* kTracerClass = "Hartframe.ConsoleTracer";
 
 ConsoleTracer::ConsoleTracer(Console& console, const Options& options)
     : console_(console),
+      language_(options.language),
       level_(options.trace.value_or(0)),
       depth_(options.traceDepth),
       detail_(options.traceDetail) {}
@@ -57,7 +59,7 @@ void ConsoleTracer::Print(std::int32_t depth, std::string_view text) {
     const auto end = text.find('\n');
     std::string_view line = text.substr(0, end);
     if (line.ends_with('\r')) line.remove_suffix(1);
-    if (!line.empty()) console_.Error(indent + OneLine(line));
+    if (!line.empty()) console_.Error(indent + OneLine(InLanguage(line, language_)));
     if (end == std::string_view::npos) return;
     text.remove_prefix(end + 1);
   }

@@ -40,6 +40,7 @@ class ConsoleTracer : public platform::Object, public ZAFHartTypes::IDDExternalT
   void Print(std::int32_t depth, std::string_view text);
 
   Console& console_;
+  std::string language_;
   int level_;
   int depth_;
   int detail_;

@@ -2,6 +2,8 @@
 #include "hartframe/Changes.h"
 #include "hartframe/Commands.h"
 #include "hartframe/DataSet.h"
+#include "hartframe/Identity.h"
+#include "hartframe/InfoTexts.h"
 #include "hartframe/dataset/DataSetTexts.h"
 #include "hartframe/dataset/KeptDataSet.h"
 #include "interfaces/InternalNames.h"
@@ -10,7 +12,6 @@ namespace hartframe {
 
 namespace {
 
-using ZAFHartTypes::Command;
 using ZAFHartTypes::Definition;
 using ZAFHartTypes::ObjectKind;
 namespace names = ZAFHartTypes::internal_names;
@@ -45,15 +46,6 @@ void TellDataSet(Session& session) {
       {"variables", say(texts::kFactVariables), std::to_string(dataSet.variables.size())},
       {"pendingChanges", say(Text::InfoPending), std::to_string(PendingVariables(session).size())}};
   session.Tell().Facts("dataSet", say(texts::kDataSetTitle), facts);
-}
-
-// HART command 0, Read Unique Identifier; nothing when the DTM has none.
-std::shared_ptr<Command> IdentityCommand(Session& session) {
-  for (const Definition& definition : session.Kernel().Commands()) {
-    const auto command = session.Kernel().GetSafeCommand(definition);
-    if (command && command->Number() == 0 && command->Transactions().Count() > 0) return command;
-  }
-  return nullptr;
 }
 
 std::vector<VariableRow> ReadIdentity(Session& session) {
@@ -106,12 +98,19 @@ ExitCode TellDevice(Session& session) {
 }
 
 void TellStates(Session& session) {
+  // The library's own labels are partly alike, and in English only.
+  constexpr std::pair<std::string_view, const char*> kStates[] = {
+      {names::kOnlineMode, texts::kStateOnlineMode},
+      {names::kDTMOnlineState, texts::kStateConnection},
+      {names::kDataSetState, texts::kStateDataSet},
+      {names::kStorageState, texts::kStateStorage},
+      {names::kDataSetLockState, texts::kStateLock},
+      {names::kFDTUserLevel, texts::kStateUserLevel},
+      {names::kLastCommunicationError, texts::kStateLastError}};
   std::vector<Fact> facts;
-  for (const std::string_view name :
-       {names::kOnlineMode, names::kDTMOnlineState, names::kDataSetState, names::kStorageState,
-        names::kDataSetLockState, names::kFDTUserLevel, names::kLastCommunicationError}) {
+  for (const auto& [name, label] : kStates) {
     const VariableRow row = session.Row(Definition::Define(name, ObjectKind::Variable));
-    facts.push_back({row.name, row.label, row.value});
+    facts.push_back({row.name, session.Say()(label), row.value});
   }
   session.Tell().Facts("states", session.Say()(Text::InfoStates), facts);
 }

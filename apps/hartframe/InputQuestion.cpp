@@ -47,7 +47,7 @@ std::string ChoiceLines(const Variable& variable, const Speech& speech) {
 std::string PresentValue(const Variable& variable, const Speech& speech) {
   const Variant& value = variable.Value();
   if (!variable.CheckValue(value, true)) return {};
-  return DisplayWithUnit(variable, value, speech);
+  return WithUnit(variable, QuestionText(variable, value, speech), speech);
 }
 
 }  // namespace

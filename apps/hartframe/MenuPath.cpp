@@ -132,6 +132,7 @@ std::string MultilingualLabel(ZAFHartTypes::DDObject& object) {
   if (const auto menu = object.MakeMenu()) label = menu->Label();
   if (const auto display = object.MakeEditDisplay()) label = display->Label();
   if (const auto method = object.MakeMethod()) label = method->Label();
+  if (object.Kind() == ObjectKind::WriteAsOne) label = texts::kGroup;
   return label.empty() ? object.ObjectDefinition().Name() : label;
 }
 

@@ -22,7 +22,8 @@ struct MenuPlace {
   std::vector<std::string> labels;  // of all steps, in the user's language
 };
 
-// The item's label in all languages; its DD name when it has none.
+// The item's label in all languages; its DD name when it has none. Groups that are written together
+// have no label of their own, and get one.
 std::string MultilingualLabel(ZAFHartTypes::DDObject& object);
 
 // The menus that a user starts from: "root_menu", the entry menu of HART device descriptions, and

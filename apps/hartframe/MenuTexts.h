@@ -13,6 +13,7 @@ inline constexpr const char* kKindEditDisplay =
 inline constexpr const char* kKindGroup =
     "written together|de|gemeinsam zu schreiben|fr|écrits ensemble|it|scritti insieme|es|"
     "se escriben juntos|kt|issho ni kakikomi";
+inline constexpr const char* kGroup = "Group|de|Gruppe|fr|Groupe|it|Gruppo|es|Grupo|kt|Guruupu";
 inline constexpr const char* kShownItems =
     "Shown:|de|Angezeigt:|fr|Affiché :|it|Visualizzati:|es|Se muestra:|kt|Hyouji:";
 inline constexpr const char* kEditedItems =

@@ -28,6 +28,10 @@ std::string Shown(const std::string& answer, const UserMessage& message) {
   return isSecret ? "****" : OneLine(answer);
 }
 
+std::string PresentAnswer(const Variable& input, const Speech& speech) {
+  return WithUnit(input, QuestionText(input, input.Value(), speech), speech);
+}
+
 }  // namespace
 
 MethodDialogue::MethodDialogue(Session& session, MethodWatch& watch)
@@ -93,9 +97,7 @@ std::int32_t MethodDialogue::Close(const UserMessage& message) {
 }
 
 std::int32_t MethodDialogue::Accept(const UserMessage& message) {
-  session_.Tell().Answer(
-      message.input ? DisplayWithUnit(*message.input, message.input->Value(), session_.Say())
-                    : kOk);
+  session_.Tell().Answer(message.input ? PresentAnswer(*message.input, session_.Say()) : kOk);
   return 0;
 }
 

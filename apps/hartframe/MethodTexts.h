@@ -17,6 +17,18 @@ inline constexpr const char* kMethodNotValid =
     "valable dans cette configuration.|it|\"{0}\" non è stato eseguito: non valido in questa "
     "configurazione.|es|\"{0}\" no se ha ejecutado: no es válido en esta configuración.|kt|\"{0}\" "
     "wa jikkou saremasen deshita: kono settei de wa yuukou de wa arimasen.";
+inline constexpr const char* kValidityUnknown =
+    "\"{0}\" was not run: whether it is valid is not known, since {1} could not be read with "
+    "command {2}: {3}.|de|\"{0}\" wurde nicht ausgeführt: ob gültig, ist nicht bekannt, denn {1} "
+    "war mit Kommando {2} nicht lesbar: {3}.|fr|\"{0}\" n'a pas été exécutée : on ne sait pas si "
+    "elle est valable, car {1} n'a pas pu être lue avec la commande {2} : {3}.|it|\"{0}\" non è "
+    "stato eseguito: non si sa se è valido, perché {1} non è stata letta con il comando {2}: {3}."
+    "|es|\"{0}\" no se ha ejecutado: no se sabe si es válido, pues {1} no se pudo leer con el "
+    "comando {2}: {3}.|kt|\"{0}\" wa jikkou saremasen deshita: {1} o komando {2} de yomenai no de, "
+    "yuukou ka dou ka wakarimasen: {3}.";
+inline constexpr const char* kResponseCode =
+    "response code {0}, {1}|de|Antwortcode {0}, {1}|fr|code de réponse {0}, {1}|it|codice di "
+    "risposta {0}, {1}|es|código de respuesta {0}, {1}|kt|outou koodo {0}, {1}";
 inline constexpr const char* kObserverCannotRun =
     "An observer cannot run methods. Choose another --user-level.|de|Ein Beobachter kann keine "
     "Methoden ausführen. Mit --user-level eine andere Benutzerebene wählen.|fr|Un observateur ne "

@@ -15,17 +15,20 @@ inline constexpr const char* kOfOutcomes[] = {
     "read-only|de|nur lesbar|fr|lecture seule|it|sola lettura|es|solo lectura|kt|yomitori nomi",
     "live|de|Messwert|fr|mesure|it|misura|es|medida|kt|sokuteichi",
     "internal|de|intern|fr|interne|it|interno|es|interno|kt|naibu",
-    "{0} variables loaded from the device.|de|{0} Variablen aus dem Gerät geladen.|fr|{0} "
-    "variables lues de l'appareil.|it|{0} variabili lette dal dispositivo.|es|{0} variables leídas "
-    "del dispositivo.|kt|{0} hensuu o kiki kara yomimashita.",
-    "{0} not loaded.|de|{0} nicht geladen.|fr|{0} non lues.|it|{0} non lette.|es|{0} no "
-    "leídas.|kt|{0} wa yomemasen deshita.",
+    "{0} {0:variable/variables} loaded from the device.|de|{0} {0:Variable/Variablen} aus dem "
+    "Gerät "
+    "geladen.|fr|{0} {0:variable lue/variables lues} de l'appareil.|it|{0} {0:variabile "
+    "letta/variabili lette} dal dispositivo.|es|{0} {0:variable leída/variables leídas} del "
+    "dispositivo.|kt|{0} hensuu o kiki kara yomimashita.",
+    "{0} not loaded.|de|{0} nicht geladen.|fr|{0} non {0:lue/lues}.|it|{0} non {0:letta/lette}."
+    "|es|{0} no {0:leída/leídas}.|kt|{0} wa yomemasen deshita.",
     "{0} not valid in this configuration.|de|{0} in dieser Konfiguration nicht gültig.|fr|{0} non "
-    "valables dans cette configuration.|it|{0} non valide in questa configurazione.|es|{0} no "
-    "válidas en esta configuración.|kt|{0} wa kono kousei de wa mukou desu.",
+    "{0:valable/valables} dans cette configuration.|it|{0} non {0:valida/valide} in questa "
+    "configurazione.|es|{0} no {0:válida/válidas} en esta configuración.|kt|{0} wa kono kousei de "
+    "wa mukou desu.",
     "{0} of {1} written to the device.|de|{0} von {1} in das Gerät geschrieben.|fr|{0} sur {1} "
-    "écrites dans l'appareil.|it|{0} di {1} scritte nel dispositivo.|es|{0} de {1} escritas en el "
-    "dispositivo.|kt|{1} no uchi {0} o kiki ni kakikomimashita.",
+    "{0:écrite/écrites} dans l'appareil.|it|{0} di {1} {0:scritta/scritte} nel dispositivo.|es|{0} "
+    "de {1} {0:escrita/escritas} en el dispositivo.|kt|{1} no uchi {0} o kiki ni kakikomimashita.",
     "Nothing to write.|de|Nichts zu schreiben.|fr|Rien à écrire.|it|Niente da scrivere.|es|Nada "
     "que escribir.|kt|Kakikomu mono wa arimasen.",
     "written|de|geschrieben|fr|écrit|it|scritto|es|escrito|kt|kakikomi-zumi",
@@ -56,8 +59,8 @@ inline constexpr const char* kOfOutcomes[] = {
     "Interrupted.|de|Abgebrochen.|fr|Interrompu.|it|Interrotto.|es|Interrumpido.|kt|Chuudan "
     "shimashita.",
     "Interrupted; {0} not attempted.|de|Abgebrochen; {0} nicht bearbeitet.|fr|Interrompu ; {0} non "
-    "traitées.|it|Interrotto; {0} non trattate.|es|Interrumpido; {0} sin tratar.|kt|Chuudan; {0} "
-    "wa mi-shori.",
+    "{0:traitée/traitées}.|it|Interrotto; {0} non {0:trattata/trattate}.|es|Interrumpido; {0} sin "
+    "tratar.|kt|Chuudan; {0} wa mi-shori.",
     "The device does not answer.|de|Das Gerät antwortet nicht.|fr|L'appareil ne répond pas.|it|Il "
     "dispositivo non risponde.|es|El dispositivo no responde.|kt|Kiki ga outou shimasen.",
     "The communication with the device is disturbed.|de|Die Kommunikation mit dem Gerät ist "

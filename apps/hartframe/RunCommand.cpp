@@ -1,5 +1,8 @@
 #include <algorithm>
+#include <span>
+#include <unordered_set>
 
+#include "ddobjects/Command.h"
 #include "ddobjects/Method.h"
 #include "gui/CDDDTMGUI.h"
 #include "hartframe/Changes.h"
@@ -27,13 +30,28 @@ struct Target {
   Definition menu;
 };
 
-std::vector<MenuEntry> AllMethods(Session& session) {
-  std::vector<MenuEntry> methods;
+// The DTM's own objects of a kind.
+std::vector<Definition> OwnObjects(Session& session, ObjectKind kind) {
+  std::vector<Definition> objects;
   for (const auto& object : session.Database().NewEnum()) {
     const Definition& definition = object->ObjectDefinition();
-    if (definition.Kind() == ObjectKind::Method &&
+    if (definition.Kind() == kind &&
         !definition.Name().starts_with(ZAFHartTypes::internal_names::kPrefix))
-      methods.push_back({definition, MultilingualLabel(*object), false});
+      objects.push_back(definition);
+  }
+  return objects;
+}
+
+// The methods that a menu offers, each once; others are actions and abort methods.
+std::vector<MenuEntry> OfferedMethods(Session& session) {
+  std::vector<MenuEntry> methods;
+  std::unordered_set<ZAFHartTypes::TextKey, ZAFHartTypes::TextKeyHash> known;
+  for (const Definition& menu : OwnObjects(session, ObjectKind::Menu)) {
+    for (MenuEntry& entry : EntriesOf(session, menu)) {
+      if (entry.definition.Kind() == ObjectKind::Method &&
+          known.insert(entry.definition.Key()).second)
+        methods.push_back(std::move(entry));
+    }
   }
   return methods;
 }
@@ -46,7 +64,7 @@ Target ByPath(Session& session) {
   return {place.entry.definition, place.labels.back(), place.menu};
 }
 
-// By the DD name of any method, by the label of one of the DTM's, or by a path of menus.
+// By the DD name of any method, by the label of one that a menu offers, or by a path of menus.
 Target FindTarget(Session& session) {
   const Speech& say = session.Say();
   const std::string& name = session.Settings().path.front();
@@ -54,7 +72,7 @@ Target FindTarget(Session& session) {
   const auto object = session.Database().ReadObject(Definition::Define(name, ObjectKind::Method));
   if (object && object->Kind() == ObjectKind::Method)
     return {object->ObjectDefinition(), say.Pick(MultilingualLabel(*object)), {}};
-  const std::vector<MenuEntry> methods = AllMethods(session);
+  const std::vector<MenuEntry> methods = OfferedMethods(session);
   const std::vector<MenuEntry> matching = MatchingEntries(say, methods, name);
   if (matching.size() == 1)
     return {matching.front().definition, say.Pick(matching.front().label), {}};
@@ -65,14 +83,40 @@ Target FindTarget(Session& session) {
       say(text, {OneLine(name), ListEntries(say, matching.empty() ? methods : matching, true)}));
 }
 
+// What went wrong with reading the variable.
+std::string FaultText(const VariableRow& row, const Speech& say) {
+  const std::int32_t code = ResponseCodeOf(*row.variable);
+  return code == 0 ? row.error : say(texts::kResponseCode, {std::to_string(code), row.error});
+}
+
+// Tells about what could not be read of that which decides about the method.
+[[noreturn]] void RefuseUnknownValidity(Session& session, const Target& target,
+                                        std::span<const VariableRow> rows) {
+  TellTroubles(session, rows);
+  const VariableRow& row = *std::find_if(rows.begin(), rows.end(), [](const VariableRow& read) {
+    return TroubleOf(*read.variable) == Trouble::Communication ||
+           TroubleOf(*read.variable) == Trouble::Refused;
+  });
+  const auto found = session.Kernel().FindReadCommand(row.variable->Definition());
+  std::string command;
+  if (found) {
+    command = std::to_string(found->Command()->Number()) + " (" +
+              found->Command()->Definition().Name() + ')';
+  }
+  const Speech& say = session.Say();
+  throw CommandFailure(
+      CodeOfTroubles(rows),
+      say(texts::kValidityUnknown, {target.label, row.name, command, FaultText(row, say)}));
+}
+
 // Whether the method is valid follows from variables, which have to be the device's.
 void RequireValid(Session& session, const Target& target) {
   ThoroughReader reader(session);
   if (!session.Run([&] { reader.ReadConditions(target.method); })) return;  // nothing will run
   if (session.Kernel().GetMethodValidity(target.method)) return;
-  TellTroubles(session, reader.Rows());
-  throw CommandFailure(Worse(ExitCode::NotAllowed, CodeOfTroubles(reader.Rows())),
-                       session.Say()(texts::kMethodNotValid, {target.label}));
+  if (CodeOfTroubles(reader.Rows()) != ExitCode::Ok)
+    RefuseUnknownValidity(session, target, reader.Rows());
+  throw CommandFailure(ExitCode::NotAllowed, session.Say()(texts::kMethodNotValid, {target.label}));
 }
 
 // The dialogue has the messages for the time of the method.
@@ -112,16 +156,12 @@ class MethodRun {
     }
   }
 
-  // Values that the method has kept, and the end that it came to.
+  // Values that the method has kept, the end that it came to, and what it did not ask for.
   ExitCode Tell() {
     TellKept();
-    if (!dialogue_->Left().empty()) {
-      std::string list;
-      for (const std::string& answer : dialogue_->Left())
-        list += (list.empty() ? "\"" : ", \"") + OneLine(answer) + '"';
-      session_.Tell().Note("answersLeft", session_.Say()(texts::kAnswersLeft, {list}));
-    }
-    return TellEnd();
+    const ExitCode code = TellEnd();
+    TellAnswersLeft();
+    return code;
   }
 
  private:
@@ -143,6 +183,14 @@ class MethodRun {
     if (rows.empty()) return;
     session_.Tell().Note("keptByMethod", session_.Say()(texts::kKeptValues));
     session_.Tell().Variables(rows);
+  }
+
+  void TellAnswersLeft() {
+    if (dialogue_->Left().empty()) return;
+    std::string list;
+    for (const std::string& answer : dialogue_->Left())
+      list += (list.empty() ? "\"" : ", \"") + OneLine(answer) + '"';
+    session_.Tell().Note("answersLeft", session_.Say()(texts::kAnswersLeft, {list}));
   }
 
   ExitCode TellEnd() {

@@ -1,6 +1,7 @@
 #include "hartframe/Speech.h"
 
 #include <iterator>
+#include <optional>
 
 #include "hartframe/OutcomeTexts.h"
 #include "hartframe/ValueTexts.h"
@@ -19,9 +20,29 @@ const char* Multilingual(Text text) {
   return index < kFirst ? texts::kOfOutcomes[index] : texts::kOfValues[index - kFirst];
 }
 
-bool IsArgument(std::string_view text, std::size_t at) {
-  return text[at] == '{' && at + 2 < text.size() && text[at + 2] == '}' && text[at + 1] >= '0' &&
-         text[at + 1] <= '9';
+// A place in a text that an argument fills: {0}, or {0:word/words} for a word that follows its
+// number.
+struct Place {
+  std::size_t argument;
+  std::string_view words;  // "" for the argument itself
+  std::size_t length;
+};
+
+std::optional<Place> PlaceAt(std::string_view text) {
+  if (text.size() < 3 || text[0] != '{' || text[1] < '0' || text[1] > '9') return std::nullopt;
+  const std::size_t end = text.find('}');
+  const auto argument = static_cast<std::size_t>(text[1] - '0');
+  if (end == 2) return Place{argument, {}, 3};
+  if (end == std::string_view::npos || text[2] != ':') return std::nullopt;
+  return Place{argument, text.substr(3, end - 3), end + 1};
+}
+
+// French counts none as one.
+std::string_view WordFor(std::string_view number, std::string_view words,
+                         std::string_view language) {
+  const std::size_t slash = words.find('/');
+  const bool isOne = number == "1" || (number == "0" && language == "fr");
+  return isOne ? words.substr(0, slash) : words.substr(slash + 1);
 }
 
 }  // namespace
@@ -35,12 +56,14 @@ std::string Speech::operator()(std::string_view multilingual,
   const std::string pattern = ZAFHartLib::LangText(multilingual, language_);
   std::string result;
   for (std::size_t at = 0; at < pattern.size(); ++at) {
-    if (!IsArgument(pattern, at)) {
+    const auto place = PlaceAt(std::string_view(pattern).substr(at));
+    if (!place) {
       result += pattern[at];
       continue;
     }
-    result += std::data(arguments)[static_cast<std::size_t>(pattern[at + 1] - '0')];
-    at += 2;
+    const std::string_view argument = std::data(arguments)[place->argument];
+    result += place->words.empty() ? argument : WordFor(argument, place->words, language_);
+    at += place->length - 1;
   }
   return result;
 }

@@ -59,7 +59,6 @@ enum class Text {
   AllowedLength,
   AllowedDate,
   AllowedNumber,
-  AllowedInteger,
   AllowedCapitals,
   BrokenText,
   Repeated,
@@ -89,7 +88,8 @@ class Speech {
 
   const std::string& Language() const { return language_; }
   void SetLanguage(std::string language) { language_ = std::move(language); }
-  // The text with {0}, {1}, … replaced by the arguments.
+  // The text with {0}, {1}, … replaced by the arguments, and {0:word/words} by the first word when
+  // the number in argument 0 is one.
   std::string operator()(Text text, std::initializer_list<std::string_view> arguments = {}) const;
   // The same of a multilingual text.
   std::string operator()(std::string_view multilingual,

@@ -7,6 +7,7 @@
 
 #include "ddobjects/ItemArray.h"
 #include "hartframe/LanguageSegments.h"
+#include "hartframe/VariableRow.h"
 #include "platform/Platform.h"
 #include "types/Failure.h"
 #include "types/NumberText.h"
@@ -141,7 +142,8 @@ Variant ParseText(std::string_view text) {
   return Variant(text);
 }
 
-std::string ShortestNumber(double number) {
+template <typename Number>
+std::string ShortestNumber(Number number) {
   char digits[64];
   const auto [end, error] = std::to_chars(std::begin(digits), std::end(digits), number);
   return {std::begin(digits), end};
@@ -152,6 +154,12 @@ std::string FormatDate(std::uint32_t bytes) {
   return plain.FormatShortDate(static_cast<int>((bytes >> 16) & 0xFF),
                                static_cast<int>((bytes >> 8) & 0xFF),
                                1900 + static_cast<int>(bytes & 0xFF));
+}
+
+// Single precision that was widened needs no more digits than it had.
+std::string ShortestOfEither(double number) {
+  const auto narrow = static_cast<float>(number);
+  return static_cast<double>(narrow) == number ? ShortestNumber(narrow) : ShortestNumber(number);
 }
 
 }  // namespace
@@ -185,6 +193,20 @@ std::optional<Variant> AcceptedValue(std::string_view text, const Variable& vari
   const bool read = ZAFHartTypes::IgnoreFailures([&] { value = ParseValue(text, variable); });
   if (read && variable.CheckValue(value, true)) return value;
   return std::nullopt;
+}
+
+std::string QuestionText(const Variable& variable, const Variant& value, const Speech& speech) {
+  const TypeInfo& type = variable.TypeInfo();
+  const bool isPlain =
+      (type.TypeCode() == TypeCode::Float || type.TypeCode() == TypeCode::Double) &&
+      type.DisplayFormat().empty() && value.IsNumber();
+  const double number = isPlain ? value.ToDouble() : NAN;
+  if (!std::isfinite(number)) return DisplayValue(variable, value, speech);
+  std::string text = ShortestOfEither(number * ScaleOf(type));
+  const auto point = text.find('.');
+  if (point != std::string::npos)
+    text.replace(point, 1, platform::Current().Locale().decimalSeparator);
+  return text;
 }
 
 std::string StoredText(const Variant& value, const Variable& variable) {

@@ -23,6 +23,11 @@ std::optional<ZAFHartTypes::Variant> AcceptedValue(std::string_view text,
 std::string RefusalSentence(std::string_view text, const ZAFHartTypes::Variable& variable,
                             const Speech& speech);
 
+// A value of the variable for a question: as DisplayValue, but a number without a display format
+// has no more digits than it needs.
+std::string QuestionText(const ZAFHartTypes::Variable& variable, const ZAFHartTypes::Variant& value,
+                         const Speech& speech);
+
 // Text that ParseValue reads back, whatever language and locale: for files.
 std::string StoredText(const ZAFHartTypes::Variant& value, const ZAFHartTypes::Variable& variable);
 

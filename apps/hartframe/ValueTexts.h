@@ -48,9 +48,6 @@ inline constexpr const char* kOfValues[] = {
     "hizuke, 1900 kara 2155 made.",
     "Allowed: a number.|de|Erlaubt: eine Zahl.|fr|Permis : un nombre.|it|Consentito: un "
     "numero.|es|Permitido: un número.|kt|Kyoka: suuji.",
-    "Allowed: a whole number of {0} bytes.|de|Erlaubt: eine ganze Zahl aus {0} Bytes.|fr|Permis : "
-    "un nombre entier de {0} octets.|it|Consentito: un numero intero di {0} byte.|es|Permitido: un "
-    "número entero de {0} bytes.|kt|Kyoka: {0} baito no seisuu.",
     "Allowed: at most {0} capital letters, digits and signs from blank to \"_\".|de|Erlaubt: "
     "höchstens {0} Großbuchstaben, Ziffern und Zeichen von Leerzeichen bis \"_\".|fr|Permis : au "
     "plus {0} majuscules, chiffres et signes de l'espace à \"_\".|it|Consentito: al massimo {0} "

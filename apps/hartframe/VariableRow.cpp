@@ -30,11 +30,14 @@ std::string DisplayValue(const Variable& variable, const Variant& value, const S
   return speech.Pick(shown ? text : value.Describe());
 }
 
-std::string DisplayWithUnit(const Variable& variable, const Variant& value, const Speech& speech) {
+std::string WithUnit(const Variable& variable, const std::string& text, const Speech& speech) {
   const std::string unit =
       speech.Pick(variable.UnitText().empty() ? variable.FixedUnitText() : variable.UnitText());
-  const std::string text = DisplayValue(variable, value, speech);
   return unit.empty() ? text : text + ' ' + unit;
+}
+
+std::string DisplayWithUnit(const Variable& variable, const Variant& value, const Speech& speech) {
+  return WithUnit(variable, DisplayValue(variable, value, speech), speech);
 }
 
 std::string StateText(const VariableRow& row, const Speech& speech) {
@@ -52,17 +55,31 @@ std::string StateText(const VariableRow& row, const Speech& speech) {
   return text;
 }
 
+namespace {
+
+// Recorded by the wrapper: this plus the response code, or plus the communication-error byte,
+// whose bit 7 is set. The kernel records the base alone for an error that the DD defines, 128 for
+// no reply, the communication-error byte or 1 for a disturbed one, and other response codes as
+// they are.
+constexpr std::int32_t kErrorBase = 0x100000;
+
+std::int32_t StatusOf(const Variable& variable) {
+  const std::int32_t index = variable.ErrorIndex();
+  return index >= kErrorBase ? index - kErrorBase : index;
+}
+
+}  // namespace
+
+std::int32_t ResponseCodeOf(const Variable& variable) {
+  return TroubleOf(variable) == Trouble::Refused ? StatusOf(variable) : 0;
+}
+
 Trouble TroubleOf(const Variable& variable) {
-  // Recorded by the wrapper: this plus the response code, or plus the communication-error byte,
-  // whose bit 7 is set. The kernel records the base alone for an error that the DD defines, 128 for
-  // no reply, the communication-error byte or 1 for a disturbed one, and other response codes as
-  // they are.
-  constexpr std::int32_t kErrorBase = 0x100000;
   constexpr std::int32_t kNoReadCommand = -1;
   const std::int32_t index = variable.ErrorIndex();
   if (index == 0) return Trouble::None;
   if (index == kNoReadCommand) return Trouble::Other;
-  const std::int32_t status = index >= kErrorBase ? index - kErrorBase : index;
+  const std::int32_t status = StatusOf(variable);
   return (status & 0x80) != 0 || index == 1 ? Trouble::Communication : Trouble::Refused;
 }
 

@@ -24,7 +24,10 @@ VariableRow MakeRow(const std::shared_ptr<ZAFHartTypes::Variable>& variable, con
 // The value as the variable would show it.
 std::string DisplayValue(const ZAFHartTypes::Variable& variable, const ZAFHartTypes::Variant& value,
                          const Speech& speech);
-// The same with the unit behind it.
+// A text for the value, with the variable's unit behind it.
+std::string WithUnit(const ZAFHartTypes::Variable& variable, const std::string& text,
+                     const Speech& speech);
+// The value as the variable would show it, with the unit.
 std::string DisplayWithUnit(const ZAFHartTypes::Variable& variable,
                             const ZAFHartTypes::Variant& value, const Speech& speech);
 
@@ -34,5 +37,7 @@ std::string StateText(const VariableRow& row, const Speech& speech);
 // How the last exchange for the variable ended.
 enum class Trouble { None, Communication, Refused, Other };
 Trouble TroubleOf(const ZAFHartTypes::Variable& variable);
+// The response code that refused it; 0 when it was not refused, or the code is not known.
+std::int32_t ResponseCodeOf(const ZAFHartTypes::Variable& variable);
 
 }  // namespace hartframe

@@ -1,6 +1,7 @@
 #include <memory>
 
 #include "hartframe/Commands.h"
+#include "hartframe/Identity.h"
 #include "hartframe/JsonReport.h"
 #include "hartframe/PluginProbe.h"
 #include "hartframe/TextReport.h"
@@ -48,6 +49,7 @@ ExitCode RunSession(const Options& options, Console& console, Speech& speech, Re
   try {
     Session session(options, console, speech, report);
     session.Open();
+    TellMissingIdentity(session);
     const ExitCode code = RunOnDataSet(session, RunCommand);
     return Worse(code, session.TellFileErrors());
   } catch (const CommandFailure& failure) {

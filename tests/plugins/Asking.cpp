@@ -55,6 +55,9 @@ void DescribeMethods(DeviceDescription& dd) {
   dd.Method("stumble").Body([](IDDBuiltinLib& builtins) { builtins.FloatValue("nonsense"); });
   dd.Method("break").Body(
       [](IDDBuiltinLib&) { throw Failure(ErrorNumber::Overflow, "break", "too much"); });
+  dd.Method("when_low").Body([](IDDBuiltinLib&) {}).ValidWhen([](Context& context) {
+    return context.Number("setpoint") < 1;
+  });
   dd.Method("give_up").Body([](IDDBuiltinLib& builtins) { builtins.Abort(true); });
   dd.Menu("root_menu").Label("Asking|de|Fragend").Methods({"ask"});
 }
