@@ -14,6 +14,8 @@ std::string_view StandardText(ErrorNumber number) {
       return "Type mismatch";
     case ErrorNumber::FileNotFound:
       return "File not found";
+    case ErrorNumber::DeviceIo:
+      return "Device I/O error";
     case ErrorNumber::PathFileAccess:
       return "Path/File access error";
     case ErrorNumber::ObjectNotSet:

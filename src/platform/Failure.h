@@ -16,6 +16,7 @@ enum class ErrorNumber : std::uint32_t {
   SubscriptOutOfRange = 9,
   TypeMismatch = 13,
   FileNotFound = 53,
+  DeviceIo = 57,
   PathFileAccess = 75,
   ObjectNotSet = 91,
   CannotCreateObject = 429,

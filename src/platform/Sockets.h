@@ -1,0 +1,92 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <span>
+
+#include "platform/SocketAddress.h"
+
+// Sockets that never block: watch Descriptor() with MessageLoop::Watch and call again. What fails
+// raises DeviceIo with what was tried, the address and the system's reason. Movable, closed with
+// the object; cancel the watch first.
+namespace platform {
+
+class Socket {
+ public:
+  Socket(Socket&& other) noexcept;
+  Socket& operator=(Socket&& other) noexcept;
+  ~Socket();
+
+  int Descriptor() const { return descriptor_; }
+  // This end's address; the port that the system chose when it was opened with port 0.
+  SocketAddress LocalAddress() const;
+
+ protected:
+  enum class Kind : std::uint8_t { Datagram, Stream };
+  Socket(Kind kind, const SocketAddress& like);
+  explicit Socket(int descriptor) : descriptor_(descriptor) {}
+  void Bind(const SocketAddress& local);
+
+ private:
+  int descriptor_;
+};
+
+class UdpSocket : public Socket {
+ public:
+  // Exchanges datagrams with this peer only. That it refuses them, a later call tells.
+  static UdpSocket ConnectTo(const SocketAddress& peer);
+  // Takes datagrams from anyone; port 0 for any free one.
+  static UdpSocket BindTo(const SocketAddress& local);
+
+  // One datagram. False when it cannot be taken just now; it is lost, as one on the way may be.
+  bool Send(std::span<const std::uint8_t> datagram);
+  bool SendTo(const SocketAddress& peer, std::span<const std::uint8_t> datagram);
+
+  struct Received {
+    std::size_t size = 0;  // of the datagram; more than the buffer's when it was cut
+    SocketAddress from;
+  };
+  // The next datagram; nothing when there is none.
+  std::optional<Received> Receive(std::span<std::uint8_t> buffer);
+
+ private:
+  using Socket::Socket;
+};
+
+class TcpSocket : public Socket {
+ public:
+  // Starts to connect; the socket becomes writable when that has ended.
+  static TcpSocket ConnectTo(const SocketAddress& peer);
+  // Raises when the peer could not be reached. REQUIRES: the socket has become writable.
+  void FinishConnect(const SocketAddress& peer);
+
+  // The number of bytes that were taken, from the first on; wait until it is writable for the rest.
+  std::size_t Send(std::span<const std::uint8_t> bytes);
+  // What has come: the number of bytes, 0 when the peer has closed; nothing when none are there.
+  std::optional<std::size_t> Receive(std::span<std::uint8_t> buffer);
+
+ private:
+  friend class TcpListener;
+  using Socket::Socket;
+};
+
+class TcpListener : public Socket {
+ public:
+  // Port 0 for any free one. A port whose last connections are still fading is taken all the same.
+  static TcpListener BindTo(const SocketAddress& local);
+
+  struct Accepted;
+  // The next connection; nothing when there is none (readable again when one comes).
+  std::optional<Accepted> Accept();
+
+ private:
+  using Socket::Socket;
+};
+
+struct TcpListener::Accepted {
+  TcpSocket socket;
+  SocketAddress from;
+};
+
+}  // namespace platform
