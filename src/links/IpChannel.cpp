@@ -13,9 +13,8 @@ std::string HartIpServerName::Text() const {
 IpChannel::~IpChannel() = default;
 
 IpChannelOpener SocketChannels(std::shared_ptr<IPacketObserver> observer) {
-  return [observer = std::move(observer)](
-             const HartIpServerName& server, std::size_t attempt,
-             IpChannel::User& user) -> std::unique_ptr<IpChannel> {
+  return [observer = std::move(observer)](const HartIpServerName& server, std::size_t attempt,
+                                          IpChannel::User& user) -> std::unique_ptr<IpChannel> {
     if (server.transport == Transport::Udp) {
       return std::make_unique<UdpChannel>(server, attempt, observer, user);
     }

@@ -28,8 +28,7 @@ class IPacketObserver {
   virtual void OnOpened(const Flow& flow, Direction sent) = 0;
   virtual void OnClosed(const Flow& flow) = 0;
   // A datagram; of a TCP connection, bytes as they came.
-  virtual void OnBytes(const Flow& flow, Direction direction,
-                       ZAFHartTypes::hart::Bytes bytes) = 0;
+  virtual void OnBytes(const Flow& flow, Direction direction, ZAFHartTypes::hart::Bytes bytes) = 0;
 };
 
 }  // namespace HartLinks

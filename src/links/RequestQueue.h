@@ -3,12 +3,13 @@
 #include <algorithm>
 #include <deque>
 #include <utility>
+#include <vector>
 
 namespace HartLinks {
 
 // What waits for a line or a session that several links share. The links take turns, one request
 // each; the requests of one link keep their order, so that one with many of them delays nobody.
-// `Request` is a pointer type; an empty one means "none".
+// A `Request` that is made without arguments, an empty pointer for one, means "none".
 template <typename Request>
 class RequestQueue {
  public:
@@ -33,6 +34,34 @@ class RequestQueue {
     turn.requests.pop_front();
     if (!turn.requests.empty()) turns_.push_back(std::move(turn));
     return request;
+  }
+
+  // Puts back what was taken: it is the next to be taken.
+  void Return(Owner owner, Request request) {
+    Turn turn{owner, {}};
+    const auto at = std::find_if(turns_.begin(), turns_.end(),
+                                 [&](const Turn& other) { return other.owner == owner; });
+    if (at != turns_.end()) {
+      turn = std::move(*at);
+      turns_.erase(at);
+    }
+    turn.requests.push_front(std::move(request));
+    turns_.push_front(std::move(turn));
+  }
+
+  // Takes all requests out for which `test` holds.
+  template <typename Test>
+  std::vector<Request> TakeIf(Test&& test) {
+    std::vector<Request> taken;
+    for (Turn& turn : turns_) {
+      std::erase_if(turn.requests, [&](const Request& request) {
+        const bool holds = test(request);
+        if (holds) taken.push_back(request);
+        return holds;
+      });
+    }
+    std::erase_if(turns_, [](const Turn& turn) { return turn.requests.empty(); });
+    return taken;
   }
 
   // Takes a request out before its turn; false when it does not wait here.

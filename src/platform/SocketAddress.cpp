@@ -5,6 +5,7 @@
 #include <sys/socket.h>
 
 #include <algorithm>
+#include <memory>
 
 #include "platform/Failure.h"
 #include "platform/NativeAddress.h"

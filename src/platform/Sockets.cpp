@@ -106,9 +106,9 @@ bool UdpSocket::SendTo(const SocketAddress& peer, std::span<const std::uint8_t> 
 
 std::optional<UdpSocket::Received> UdpSocket::Receive(std::span<std::uint8_t> buffer) {
   NativeAddress native;
-  const auto size = Result(recvfrom(Descriptor(), buffer.data(), buffer.size(), MSG_TRUNC,
-                                    native.Get(), &native.size),
-                           "Cannot receive");
+  const auto size = Result(
+      recvfrom(Descriptor(), buffer.data(), buffer.size(), MSG_TRUNC, native.Get(), &native.size),
+      "Cannot receive");
   if (!size) return std::nullopt;
   return Received{*size, FromNative(native.Get()).value_or(SocketAddress{})};
 }
