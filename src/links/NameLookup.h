@@ -24,6 +24,8 @@ class NameLookup {
 
   // Calls `found` once, from the message loop; for a numeric address at the next pump.
   NameLookup(const std::string& host, std::uint16_t port, Handler found);
+  NameLookup(const NameLookup&) = delete;
+  NameLookup& operator=(const NameLookup&) = delete;
 
  private:
   struct Shared;
