@@ -15,7 +15,9 @@ KernelInformation::KernelInformation()
           {{ZAFHartTypes::StandardName::UploadVariables, "upload_variables"},
            {ZAFHartTypes::StandardName::OnlineParameters, "online_parameters"},
            {ZAFHartTypes::StandardName::ProcessVariables, "process_variables"},
-           {ZAFHartTypes::StandardName::StatusDisplay, "status_display"}}) {}
+           {ZAFHartTypes::StandardName::StatusDisplay, "status_display"}}) {
+  Supports({.expandedType = 0xFA10, .lowestRevision = 1, .highestRevision = 2});
+}
 
 }  // namespace sampletemperature
 

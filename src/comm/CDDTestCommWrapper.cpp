@@ -1,155 +1,99 @@
 #include "comm/CDDTestCommWrapper.h"
 
-#include <algorithm>
-
-#include "comm/ReplyDecoding.h"
+#include "comm/CommandFinder.h"
+#include "comm/ReplyTemplate.h"
 #include "ddobjects/Transaction.h"
-#include "ddobjects/Variable.h"
-#include "gui/CLockObject.h"
-#include "gui/clsEventDispatcher.h"
 #include "hart/StatusBytes.h"
-#include "interfaces/InternalNames.h"
+#include "linksim/ItemCoding.h"
 #include "platform/Platform.h"
-#include "types/Failure.h"
 
-// Life cycle, links and the synchronous execution of a command.
 namespace ZAFHartLib {
 
 namespace hart = ZAFHartTypes::hart;
-using ZAFHartTypes::DataItem;
-using ZAFHartTypes::ErrorNumber;
-using ZAFHartTypes::ExchangeResult;
+using HartLinkSim::Frame;
+using ZAFHartTypes::Definition;
+using ZAFHartTypes::DtmOnlineState;
 using ZAFHartTypes::ExchangeState;
-using ZAFHartTypes::Failure;
-using ZAFHartTypes::IgnoreFailures;
-using ZAFHartTypes::LifeSignalCode;
+using ZAFHartTypes::OnlineMode;
+using ZAFHartTypes::Variant;
 
 namespace {
 
-constexpr platform::Milliseconds kWaitStep{20};
+constexpr auto kReadUniqueIdentifier =
+    static_cast<std::int16_t>(UniversalCommand::ReadUniqueIdentifier);
+
+// Positions in the reply to command 0, status bytes included, and in a long address.
+constexpr std::size_t kExpansionAt = 2;
+constexpr std::size_t kManufacturerAt = 3;
+constexpr std::size_t kDeviceTypeAt = 4;
+constexpr std::size_t kDeviceIdAt = 11;
+constexpr std::size_t kDeviceIdSize = 3;
+// Bits of the manufacturer that a long address has room for.
+constexpr std::uint32_t kManufacturerMask = 63;
 
 }  // namespace
 
-// A synchronous exchange under way: it can be cancelled, and is when the wait for it fails.
-class CDDTestCommWrapper::Waiting {
- public:
-  Waiting(std::vector<UnderWay>& list, UnderWay waiting) : list_(list), waiting_(waiting) {
-    list_.push_back(std::move(waiting));
-  }
-  ~Waiting() {
-    list_.pop_back();
-    End(waiting_);
-  }
-  Waiting(const Waiting&) = delete;
-  Waiting& operator=(const Waiting&) = delete;
+CDDTestCommWrapper::CDDTestCommWrapper() : CommWrapper("HartLinkSim.EchoLink") {}
 
-  // Ends an exchange as Cancelled; false when it has ended already.
-  static bool End(const UnderWay& underWay) {
-    if (!IsUnderWay(underWay.exchange->State())) return false;
-    IgnoreFailures([&] { underWay.link->Cancel(underWay.exchange); });
-    underWay.exchange->Finish(ExchangeState::Cancelled, ExchangeResult::None);
-    return true;
-  }
-
- private:
-  std::vector<UnderWay>& list_;
-  UnderWay waiting_;
-};
-
-CDDTestCommWrapper::CDDTestCommWrapper()
-    : replyBytes_(hart::kStatusSize),
-      communicationMenu_(ZAFHartTypes::internal_names::kConnectionMenu),
-      linkClass_("HartLinkSim.EchoLink") {
-  IgnoreFailures([this] { asynchronizer_.Show(); });
+void CDDTestCommWrapper::ApplyEmulate(bool emulate) {
+  StoreOnlineState(emulate ? OnlineMode::Offline : OnlineMode::Online,
+                   emulate ? DtmOnlineState::NotConnected : DtmOnlineState::Connected);
 }
 
-CDDTestCommWrapper::~CDDTestCommWrapper() {
-  EndBackground();
+void CDDTestCommWrapper::PrepareExchange(std::int16_t number) {
+  if (number != kReadUniqueIdentifier) Learn(ErrorSeverity::Critical);
 }
 
-void CDDTestCommWrapper::SetComponentModel(const std::shared_ptr<IDDComponents>& components) {
-  model_.Set(components);
-  if (components) {
-    asynchronizer_.SetCommWrapper(weak_from_this());
+std::string CDDTestCommWrapper::ReplyTemplate(const Transaction& transaction) {
+  const std::vector<Variant> answers = TemplateValues(
+      transaction.Reply(), ReplyBytes(), Model().Gui()->LanguageID(), platform::Current().Random());
+  return HartLinkSim::EncodeItems(transaction.Reply(), answers).HexText();
+}
+
+void CDDTestCommWrapper::LearnLongAddress() {
+  Learn(ErrorSeverity::Error);
+}
+
+void CDDTestCommWrapper::Learn(ErrorSeverity severity) {
+  if (!LongAddress().empty()) return;
+  ExecuteCommand0();
+  if (LongAddress().empty()) ShowConnectionError(severity);
+}
+
+void CDDTestCommWrapper::ExecuteCommand0() {
+  if (isLearning_) return;
+  struct Learning {
+    bool& flag;
+    explicit Learning(bool& learning) : flag(learning) { flag = true; }
+    ~Learning() { flag = false; }
+  } const learning(isLearning_);
+  Address().ReadFromKernel(Model());
+  const auto kernel = Model().Kernel();
+  const Definition definition = FindCommand(Model(), UniversalCommand::ReadUniqueIdentifier);
+  const auto command = definition ? kernel->GetSafeCommand(definition) : nullptr;
+  if (command) kernel->ExecuteCommand(command->CommandCopy(), 0);
+}
+
+// Takes the long address out of the reply to command 0. A reply that is too short for an identity
+// leaves it as it is.
+void CDDTestCommWrapper::TakeReplyOf(Exchange& exchange, const Frame& reply) {
+  if (exchange.CommandNumber() != kReadUniqueIdentifier ||
+      exchange.State() != ExchangeState::Completed || LastStatus().communication != 0 ||
+      reply.Length() <= kExpansionAt) {
+    return;
+  }
+  Frame address;
+  if (reply.Unsigned(kExpansionAt, 1) != hart::kExpansionCode) {
+    address.SetUnsigned(0, 1, static_cast<std::uint32_t>(Address().PollingAddress()));
+  } else if (reply.Length() >= kDeviceIdAt + kDeviceIdSize) {
+    address.SetUnsigned(0, 1, reply.Unsigned(kManufacturerAt, 1) & kManufacturerMask);
+    address.SetUnsigned(1, 1, reply.Unsigned(kDeviceTypeAt, 1));
+    address.SetUnsigned(2, kDeviceIdSize, reply.Unsigned(kDeviceIdAt, kDeviceIdSize));
   } else {
-    asynchronizer_.SetCommWrapper({});
-    EndBackground();
+    return;
   }
-}
-
-std::vector<std::uint8_t> CDDTestCommWrapper::LastData() const {
-  const std::size_t status = std::min(replyBytes_.size(), hart::kStatusSize);
-  return {replyBytes_.begin() + static_cast<std::ptrdiff_t>(status), replyBytes_.end()};
-}
-
-void CDDTestCommWrapper::SetLinkClass(const std::string& className) {
-  linkClass_ = className;
-  ownLink_.reset();
-}
-
-void CDDTestCommWrapper::SetLink(std::shared_ptr<ILink> link) {
-  hostLink_ = std::move(link);
-}
-
-std::shared_ptr<ILink> CDDTestCommWrapper::Link() {
-  if (hostLink_) return hostLink_;
-  if (!ownLink_) ownLink_ = platform::Current().Classes().CreateAs<ILink>(linkClass_);
-  return ownLink_;
-}
-
-bool CDDTestCommWrapper::CancelExchange() {
-  bool cancelled = false;
-  const std::vector<UnderWay> waiting = waiting_;
-  for (const UnderWay& underWay : waiting) cancelled = Waiting::End(underWay) || cancelled;
-  return cancelled;
-}
-
-bool CDDTestCommWrapper::ExecuteCommand(std::int16_t number,
-                                        const std::shared_ptr<Transaction>& transaction) {
-  const auto self = shared_from_this();
-  if (!transaction) {
-    throw Failure(ErrorNumber::InvalidArgument, "CDDTestCommWrapper.ExecuteCommand",
-                  "Command " + std::to_string(number) + " comes without a transaction.");
-  }
-  if (CompletesLocally()) return CompleteLocally(number, *transaction);
-  const auto exchange = BuildExchange(number, transaction);
-  ExecuteAndWait(exchange, transaction);
-  lastCommandNumber_ = number;
-  return ProcessReply(number, *exchange, *transaction);
-}
-
-// The values of the worker database stand as those of the device.
-bool CDDTestCommWrapper::CompleteLocally(std::int16_t number, Transaction& transaction) {
-  lastCommandNumber_ = number;
-  lastResult_ = 0;
-  status_ = {};
-  replyBytes_.assign(hart::kStatusSize, 0);
-  SetErrors(transaction.Reply(), 0, "");
-  for (DataItem& item : transaction.Reply()) {
-    if (item.IsVariable() && item.Variable()) item.Variable()->SetAvailable(true);
-  }
-  // An error that a real exchange left in the status items is not one of this command.
-  if (hadErrors_) SetStatusItems(transaction.Reply(), {});
-  return false;
-}
-
-void CDDTestCommWrapper::ExecuteAndWait(const std::shared_ptr<Exchange>& exchange,
-                                        const std::shared_ptr<Transaction>& transaction) {
-  const UnderWay underWay{exchange, Link()};
-  const Waiting waiting(waiting_, underWay);
-  underWay.link->Execute(exchange);
-  CLockObject lock;
-  lock.SetLock(model_.Gui());
-  clsEventDispatcher dispatcher;
-  dispatcher.DoInitialize();
-  while (IsUnderWay(exchange->State())) {
-    dispatcher.WaitStep(kWaitStep);
-    model_.Gui()->LifeSignal(LifeSignalCode::Waiting, transaction);
-  }
-  if (exchange->State() == ExchangeState::Cancelled) {
-    throw Failure(ErrorNumber::Cancelled, "CDDTestCommWrapper.ExecuteCommand");
-  }
-  model_.Model();
+  SetLongAddress(address.HexText());
+  exchange.SetLongAddress(LongAddress());
 }
 
 }  // namespace ZAFHartLib

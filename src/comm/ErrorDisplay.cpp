@@ -23,8 +23,13 @@ ZAFHartTypes::UserMessage MessageOf(ErrorSeverity severity) {
 
 bool ShowError(ZAFHartTypes::IDDDTMGUI& gui, ErrorSeverity severity, std::int32_t id,
                const ZAFHartTypes::PromptValues& values) {
+  return ShowError(gui, severity,
+                   values.IsEmpty() ? ResText(id) : FormatDDString(ResText(id), values));
+}
+
+bool ShowError(ZAFHartTypes::IDDDTMGUI& gui, ErrorSeverity severity, const std::string& text) {
   ZAFHartTypes::UserMessage message = MessageOf(severity);
-  message.prompt = values.IsEmpty() ? ResText(id) : FormatDDString(ResText(id), values);
+  message.prompt = text;
   const std::int32_t answer = gui.ShowUserMessage(message);
   if (message.displayId > 0) gui.HideUserMessage(message.displayId);
   return severity == ErrorSeverity::Critical || answer == ZAFHartTypes::kMessageCancelled;

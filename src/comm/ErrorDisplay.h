@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
 
 #include "interfaces/IDDDTMGUI.h"
 #include "types/PromptValues.h"
@@ -17,5 +18,7 @@ enum class ErrorSeverity : std::uint8_t {
 // otherwise when the user cancelled the message.
 bool ShowError(ZAFHartTypes::IDDDTMGUI& gui, ErrorSeverity severity, std::int32_t id,
                const ZAFHartTypes::PromptValues& values = {});
+// The same with a multilingual text.
+bool ShowError(ZAFHartTypes::IDDDTMGUI& gui, ErrorSeverity severity, const std::string& text);
 
 }  // namespace ZAFHartLib

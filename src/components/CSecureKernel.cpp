@@ -8,6 +8,16 @@ namespace ZAFHartLib {
 
 using namespace ZAFHartTypes;
 
+namespace {
+
+// The user knows already, and the caller must: the operation ends.
+bool EndsQuietly(const Failure& failure) {
+  return failure.Number() == ErrorNumber::Cancelled ||
+         failure.Number() == ErrorNumber::NotConnected;
+}
+
+}  // namespace
+
 template <typename Interface, typename Member, typename... Arguments>
 auto CSecureKernel::Trapped(Member Interface::*member, Arguments&&... arguments) const
     -> std::invoke_result_t<Member Interface::*, Interface&, Arguments...> {
@@ -18,7 +28,7 @@ auto CSecureKernel::Trapped(Member Interface::*member, Arguments&&... arguments)
     return std::invoke(member, *kernel, std::forward<Arguments>(arguments)...);
   } catch (const Failure& failure) {
     Report(failure);
-    if (failure.Number() == ErrorNumber::Cancelled) throw;
+    if (EndsQuietly(failure)) throw;
   }
   return Result();
 }
@@ -27,7 +37,7 @@ void CSecureKernel::Report(const Failure& failure) const {
   const auto components = model_.Get();
   if (!components) return;
   if (const auto database = components->DDWorkerDB()) database->ResetInRecursionFlags();
-  if (failure.Number() == ErrorNumber::Cancelled) return;
+  if (EndsQuietly(failure)) return;
   const auto gui = components->DDGUI();
   if (!gui) return;
   gui->SetErrorHandler(nullptr);

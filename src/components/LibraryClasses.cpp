@@ -2,6 +2,7 @@
 
 #include "builtins/CDDBuiltinLib.h"
 #include "comm/CDDTestCommWrapper.h"
+#include "comm/CHARTCommWrapper.h"
 #include "components/CDDComponents.h"
 #include "components/CSecureKernel.h"
 #include "fdtobjects/CFDTDataModel.h"
@@ -34,6 +35,7 @@ void RegisterLibraryClasses(platform::ComponentClasses& classes) {
   Register<CSecureKernel>(classes, "ZAFHartLib.CSecureKernel");
   Register<CDDBuiltinLib>(classes, "ZAFHartLib.CDDBuiltinLib");
   Register<CDDTestCommWrapper>(classes, "ZAFHartLib.CDDTestCommWrapper");
+  Register<CHARTCommWrapper>(classes, "ZAFHartLib.CHARTCommWrapper");
   Register<CFDTDataModel>(classes, "ZAFHartLib.CFDTDataModel");
   Register<CEmptyErrorHandler>(classes, "ZAFHartLib.CEmptyErrorHandler");
   Register<CTraceObj>(classes, "ZAFHartLib.CTraceObj");

@@ -5,11 +5,15 @@
 #include <utility>
 
 #include "ddobjects/IDDDataModel.h"
+#include "ddobjects/SupportedDevices.h"
 
 namespace ZAFHartTypes::dtmkit {
 
-// A DTM's kernel information: a table of standard names and the place of its component file.
-class KernelInformationBase : public platform::Object, public IKernelInformation {
+// A DTM's kernel information: a table of standard names, the place of its component file and the
+// devices that it is for.
+class KernelInformationBase : public platform::Object,
+                              public IKernelInformation,
+                              public ISupportedDevices {
  public:
   using StandardNames = std::initializer_list<std::pair<ZAFHartTypes::StandardName, std::string>>;
 
@@ -27,12 +31,22 @@ class KernelInformationBase : public platform::Object, public IKernelInformation
   std::string ComponentFolder() override { return folder_.string(); }
   std::string ComponentFileName() override { return fileName_; }
   std::int32_t DataModelVersion() override { return dataModelVersion_; }
+  std::vector<SupportedDevice> SupportedDevices() const override { return devices_; }
+
+ protected:
+  // Adds a device that the DTM is made for, for the constructor of a DTM's own class:
+  //
+  //   Supports({.expandedType = 0xFA10, .lowestRevision = 1, .highestRevision = 3});
+  //
+  // A DTM that names none takes every device.
+  void Supports(const SupportedDevice& device) { devices_.push_back(device); }
 
  private:
   std::filesystem::path folder_;
   std::string fileName_;
   std::vector<std::pair<ZAFHartTypes::StandardName, std::string>> names_;
   std::int32_t dataModelVersion_;
+  std::vector<SupportedDevice> devices_;
 };
 
 }  // namespace ZAFHartTypes::dtmkit

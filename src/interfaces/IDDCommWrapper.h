@@ -46,7 +46,8 @@ class IDDCommWrapper {
 class ILinkUser {
  public:
   virtual ~ILinkUser() = default;
-  // Class name from which a link is created when none is given; "HartLinkSim.EchoLink" at first.
+  // Class name from which a link is created when none is given; at first "HartLinkSim.EchoLink",
+  // for a wrapper for real links "HartModem.Link".
   virtual std::string LinkClass() const = 0;
   virtual void SetLinkClass(const std::string& className) = 0;
   // The link for all exchanges from now on; nothing goes back to LinkClass.

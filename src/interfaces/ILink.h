@@ -19,6 +19,7 @@ enum class ExchangeState : std::int32_t {
   Completed = 3,  // with a reply
   NoReply = 4,
   Cancelled = 5,
+  NotSent = 6,  // there was no connection to send it on
 };
 constexpr bool IsUnderWay(ExchangeState state) {
   return state == ExchangeState::Queued || state == ExchangeState::InProgress;
@@ -46,6 +47,8 @@ class Exchange : public std::enable_shared_from_this<Exchange> {
   void SetPollAddress(std::int16_t address) { pollAddress_ = address; }
   const std::string& Tag() const { return tag_; }
   void SetTag(std::string tag) { tag_ = std::move(tag); }
+  // Ten hexadecimal digits when the unique address of the device is known; zeros are the broadcast
+  // address of commands 11 and 21. Otherwise the request goes to the polling address.
   const std::string& LongAddress() const { return longAddress_; }
   void SetLongAddress(std::string address) { longAddress_ = std::move(address); }
   // Data bytes of the request.
@@ -55,7 +58,8 @@ class Exchange : public std::enable_shared_from_this<Exchange> {
   // reply, from the response code byte on.
   const std::string& ReplyData() const { return replyData_; }
   void SetReplyData(std::string hex) { replyData_ = std::move(hex); }
-  // The transaction whose items the data stand for; nothing for an empty exchange.
+  // The transaction whose items the data stand for; nothing for an empty exchange and for one that
+  // the wrapper makes without the DD.
   const std::shared_ptr<Transaction>& ItemsOf() const { return transaction_; }
   void SetItemsOf(std::shared_ptr<Transaction> transaction) {
     transaction_ = std::move(transaction);

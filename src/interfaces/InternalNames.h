@@ -25,6 +25,9 @@ inline constexpr std::string_view kFDTProjectName = "__ZAF__FDTProjectName";
 inline constexpr std::string_view kFDTSessionDescription = "__ZAF__FDTSessionDescription";
 inline constexpr std::string_view kBusCategory = "__ZAF__BUSCATEGORY";
 inline constexpr std::string_view kFDTDTMState = "__ZAF__FDTDTMState";
+inline constexpr std::string_view kRetryNumber = "__ZAF__RETRYNO";
+inline constexpr std::string_view kReconnectRetryNumber =
+    "__ZAF__ZAFsingleStorage_RECONNECTRETRYNO";
 inline constexpr std::string_view kDataSetState = "__ZAF__DATASETSTATE";
 inline constexpr std::string_view kDataSetLockState = "__ZAF__DATASETLOCKSTATE";
 inline constexpr std::string_view kStorageState = "__ZAF__STORAGESTATE";

@@ -106,4 +106,8 @@ Frame EncodeItems(const DataItemList& items, const ItemLayout& layout,
   return frame;
 }
 
+Frame EncodeItems(const DataItemList& items, std::span<const Variant> values) {
+  return EncodeItems(items, LayOut(items), values);
+}
+
 }  // namespace HartLinkSim

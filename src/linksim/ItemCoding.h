@@ -24,5 +24,8 @@ std::optional<ZAFHartTypes::Variant> ReadItem(const Frame& frame,
 // The bytes of all items, with `values` in item order.
 Frame EncodeItems(const ZAFHartTypes::DataItemList& items, const ItemLayout& layout,
                   std::span<const ZAFHartTypes::Variant> values);
+// Lays the items out first; raises what LayOut raises.
+Frame EncodeItems(const ZAFHartTypes::DataItemList& items,
+                  std::span<const ZAFHartTypes::Variant> values);
 
 }  // namespace HartLinkSim

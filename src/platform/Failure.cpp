@@ -30,6 +30,8 @@ std::string_view StandardText(ErrorNumber number) {
       return "Not implemented";
     case ErrorNumber::InvalidArgument:
       return "The parameter is incorrect";
+    case ErrorNumber::NotConnected:
+      return "The device is not connected";
     case ErrorNumber::Cancelled:
       return "The operation was canceled by the user";
     case ErrorNumber::Unexpected:

@@ -24,6 +24,7 @@ enum class ErrorNumber : std::uint32_t {
   DuplicateKey = 457,
   NotImplemented = 0x80004001,
   InvalidArgument = 0x80070057,
+  NotConnected = 0x8007048F,
   Cancelled = 0x800704C7,
   Unexpected = 0x8000FFFF,
 };

@@ -31,7 +31,7 @@
 namespace platform {
 
 // Changes whenever an object made by one build of the library cannot be used by another.
-inline constexpr std::uint32_t kPluginAbi = 2;
+inline constexpr std::uint32_t kPluginAbi = 3;
 
 // Compiler, standard library and library version that the including file is built with. Static, so
 // that a plug-in tells its own and not what the library was built with.

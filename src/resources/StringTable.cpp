@@ -190,6 +190,27 @@ constexpr auto kTable = std::to_array<StringResource>({
     {idPreparingDisconnect, "Preparing Disconnect|de|Trennung wird vorbereitet"},
     {idDisconnecting, "Disconnecting|de|Verbindung wird getrennt"},
     {idConnected, "Connected|de|Verbunden"},
+    {idErrNoDeviceAnswers,
+     "No device answers at address %{s1}. Check its power, its wiring and the address."
+     "|de|Unter der Adresse %{s1} antwortet kein Gerät. Prüfen Sie Speisung, Verdrahtung und "
+     "Adresse."},
+    {idErrNoDeviceReason,
+     "The device at address %{s1} cannot be reached: %{s2}"
+     "|de|Das Gerät unter der Adresse %{s1} ist nicht erreichbar: %{s2}"},
+    {idErrWrongDevice,
+     "The wrong device is connected. The DTM is for %{s1}, connected is %{s2}. Connect the device "
+     "that the DTM is for, or use the DTM for this one. Nothing is written to it."
+     "|de|Das falsche Gerät ist verbunden. Der DTM ist für %{s1}, verbunden ist %{s2}. Verbinden "
+     "Sie das Gerät, für das der DTM ist, oder verwenden Sie den DTM für dieses. Nichts wird "
+     "dorthin geschrieben."},
+    {idErrOtherDevice,
+     "Another device is connected than before: %{s2} instead of %{s1}. Connect the former one, or "
+     "accept this one and read it anew. Nothing is written to it."
+     "|de|Ein anderes Gerät als zuvor ist verbunden: %{s2} statt %{s1}. Verbinden Sie das frühere, "
+     "oder übernehmen Sie dieses und lesen Sie es neu. Nichts wird dorthin geschrieben."},
+    {idErrDisconnected,
+     "The DTM is disconnected from its device. Connect it first."
+     "|de|Der DTM ist von seinem Gerät getrennt. Stellen Sie zuerst die Verbindung her."},
     {idWaiting, "Waiting ...|de|Warte ..."},
 
     {idTitleError, "Error|de|Fehler|fr|Erreur|it|Errore|es|Error"},

@@ -135,6 +135,11 @@ enum enumDDResourceIDs : std::int32_t {
   idPreparingDisconnect = 3006,
   idDisconnecting = 3007,
   idConnected = 3010,
+  idErrNoDeviceAnswers = 3020,
+  idErrNoDeviceReason = 3021,
+  idErrWrongDevice = 3022,
+  idErrOtherDevice = 3023,
+  idErrDisconnected = 3024,
   idWaiting = 3100,
 
   idTitleError = 11001,

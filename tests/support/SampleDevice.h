@@ -22,7 +22,8 @@ inline const std::filesystem::path kDtmFolder = ZAF_DTM_FOLDER;
 // one of its files.
 class DtmOnDevice {
  public:
-  DtmOnDevice(const std::string& project, const std::string& file) {
+  DtmOnDevice(const std::string& project, const std::string& file,
+              const std::string& commWrapper = "ZAFHartLib.CDDTestCommWrapper") {
     if (!file.empty()) {
       device_->UseFile(kDtmFolder / file,
                        HartLinkSim::EmulatedDevice::SaveMode::OnDemand);  // never saved
@@ -30,7 +31,7 @@ class DtmOnDevice {
     ZAFHartLib::RegisterLibraryClasses(platform_.Classes());
     platform_.Classes().SetPluginPath({kDtmFolder});
     components_->SetDataModelClass(project + ".DataModel");
-    components_->SetCommWrapperClass("ZAFHartLib.CDDTestCommWrapper");
+    components_->SetCommWrapperClass(commWrapper);
     components_->Initialize();
     UseLink(std::make_shared<HartLinkSim::DeviceLink>(device_));
   }

@@ -1,5 +1,4 @@
-#include "comm/CDDTestCommWrapper.h"
-#include "comm/CommandFinder.h"
+#include "comm/CommWrapper.h"
 #include "ddobjects/Menu.h"
 #include "interfaces/InternalNames.h"
 #include "resources/ResText.h"
@@ -19,7 +18,7 @@ using ZAFHartTypes::OnlineMode;
 
 namespace internal_names = ZAFHartTypes::internal_names;
 
-void CDDTestCommWrapper::Initialize() {
+void CommWrapper::Initialize() {
   const auto self = shared_from_this();
   SetEmulate(true);
   address_.Find(model_);
@@ -36,58 +35,41 @@ void CDDTestCommWrapper::Initialize() {
   SetEmulate(false);
 }
 
-void CDDTestCommWrapper::SetEmulate(bool emulate) {
+void CommWrapper::SetEmulate(bool emulate) {
   emulate_ = emulate;
-  if (!model_.Get()) return;
-  const auto kernel = model_.Kernel();
-  const auto mode =
-      kernel->GetVariable(Definition::Define(internal_names::kOnlineMode, ObjectKind::Variable));
-  const auto state = kernel->GetVariable(
-      Definition::Define(internal_names::kDTMOnlineState, ObjectKind::Variable));
-  const auto database = model_.Database();
-  database->WriteValue(mode->Definition(), static_cast<std::int16_t>(emulate ? OnlineMode::Offline
-                                                                             : OnlineMode::Online));
-  database->WriteValue(state->Definition(),
-                       static_cast<std::int32_t>(emulate ? DtmOnlineState::NotConnected
-                                                         : DtmOnlineState::Connected));
+  if (model_.Get()) ApplyEmulate(emulate);
 }
 
-void CDDTestCommWrapper::GetAddressInformation(std::int32_t& pollingAddress, std::string& tagName,
-                                               std::string& longAddress) {
+void CommWrapper::StoreOnlineState(OnlineMode mode, DtmOnlineState state) {
+  const auto kernel = model_.Kernel();
+  const auto modeVariable =
+      kernel->GetVariable(Definition::Define(internal_names::kOnlineMode, ObjectKind::Variable));
+  const auto stateVariable = kernel->GetVariable(
+      Definition::Define(internal_names::kDTMOnlineState, ObjectKind::Variable));
+  const auto database = model_.Database();
+  database->WriteValue(modeVariable->Definition(), static_cast<std::int16_t>(mode));
+  database->WriteValue(stateVariable->Definition(), static_cast<std::int32_t>(state));
+}
+
+void CommWrapper::GetAddressInformation(std::int32_t& pollingAddress, std::string& tagName,
+                                        std::string& longAddress) {
   const auto self = shared_from_this();
   IgnoreFailures([this] {
     address_.ReadFromDatabase(model_);
-    if (!longAddress_.empty() || emulate_) return;
-    LearnLongAddress();
-    if (longAddress_.empty()) ShowConnectionError(ErrorSeverity::Error);
+    if (!emulate_) LearnLongAddress();
   });
   pollingAddress = address_.PollingAddress();
   tagName = address_.Tag();
   longAddress = longAddress_;
 }
 
-void CDDTestCommWrapper::SetAddressInformation(std::int32_t pollingAddress,
-                                               const std::string& tagName,
-                                               const std::string& longAddress) {
+void CommWrapper::SetAddressInformation(std::int32_t pollingAddress, const std::string& tagName,
+                                        const std::string& longAddress) {
   address_.Set(model_, pollingAddress, tagName);
   longAddress_ = longAddress;
 }
 
-void CDDTestCommWrapper::LearnLongAddress() {
-  if (isLearning_) return;
-  struct Learning {
-    bool& flag;
-    explicit Learning(bool& learning) : flag(learning) { flag = true; }
-    ~Learning() { flag = false; }
-  } const learning(isLearning_);
-  address_.ReadFromKernel(model_);
-  const auto kernel = model_.Kernel();
-  const Definition definition = FindCommand(model_, UniversalCommand::ReadUniqueIdentifier);
-  const auto command = definition ? kernel->GetSafeCommand(definition) : nullptr;
-  if (command) kernel->ExecuteCommand(command->CommandCopy(), 0);
-}
-
-void CDDTestCommWrapper::ShowConnectionError(ErrorSeverity severity) {
+void CommWrapper::ShowConnectionError(ErrorSeverity severity) {
   if (!ShowError(*model_.Gui(), severity, idErrNoConnection)) return;
   lastResult_ = static_cast<std::int32_t>(ZAFHartTypes::CommResult::NotInDD);
 }

@@ -1,6 +1,6 @@
 #include <algorithm>
 
-#include "comm/CDDTestCommWrapper.h"
+#include "comm/CommWrapper.h"
 #include "ddobjects/Command.h"
 #include "types/Failure.h"
 
@@ -15,27 +15,26 @@ using ZAFHartTypes::LifeSignalCode;
 
 namespace {
 
-void RequireCommand(const std::shared_ptr<CommandRef>& reference) {
+void RequireCommand(const std::shared_ptr<CommandRef>& reference, const std::string& source) {
   if (reference && reference->Command()) return;
-  throw Failure(ErrorNumber::InvalidArgument, "CDDTestCommWrapper.AsyncExecuteCommand",
-                "The execution comes without a command.");
+  throw Failure(ErrorNumber::InvalidArgument, source, "The execution comes without a command.");
 }
 
-void TraceFailure(ZAFHartTypes::IDDDTMGUI& gui, const Failure& failure) {
+void TraceFailure(ZAFHartTypes::IDDDTMGUI& gui, const char* className, const Failure& failure) {
   IgnoreFailures([&] {
     const auto tracer = gui.TraceObject();
     constexpr std::int32_t kEveryFilter = -1;
     if (!tracer) return;
-    tracer->TraceText(kEveryFilter, "CDDTestCommWrapper: asynchronous completion failed: " +
+    tracer->TraceText(kEveryFilter, std::string(className) + ": asynchronous completion failed: " +
                                         failure.Source() + ": " + failure.Description());
   });
 }
 
 }  // namespace
 
-bool CDDTestCommWrapper::AsyncExecuteCommand(const std::shared_ptr<CommandRef>& reference) {
+bool CommWrapper::AsyncExecuteCommand(const std::shared_ptr<CommandRef>& reference) {
   const auto self = shared_from_this();
-  RequireCommand(reference);
+  RequireCommand(reference, Source("AsyncExecuteCommand"));
   if (CompletesLocally()) {
     const auto exchange = std::make_shared<Exchange>();
     exchange->SetUserData(reference);
@@ -47,20 +46,23 @@ bool CDDTestCommWrapper::AsyncExecuteCommand(const std::shared_ptr<CommandRef>& 
   const auto exchange = BuildExchange(reference->Command()->Number(), transaction);
   exchange->SetCallback(weak_from_this());
   exchange->SetUserData(reference);
+  StartInBackground(exchange);
+  return false;
+}
+
+void CommWrapper::StartInBackground(const std::shared_ptr<Exchange>& exchange) {
   const auto link = Link();
   background_.push_back({exchange, link});
   try {
     link->Execute(exchange);
   } catch (const Failure&) {
     // The caller knows by the failure; there is nothing left to complete.
-    ForgetBackground(exchange);
-    std::erase(asynchronizer_.ExchangeQueue(), exchange);
+    DropBackground(exchange);
     throw;
   }
-  return false;
 }
 
-void CDDTestCommWrapper::CommCallback_Finisched(const std::shared_ptr<Exchange>& exchange) {
+void CommWrapper::CommCallback_Finisched(const std::shared_ptr<Exchange>& exchange) {
   if (!model_.Get()) return;
   if (!asynchronizer_.IsVisible()) IgnoreFailures([this] { asynchronizer_.Show(); });
   if (asynchronizer_.IsVisible()) {
@@ -71,7 +73,7 @@ void CDDTestCommWrapper::CommCallback_Finisched(const std::shared_ptr<Exchange>&
   }
 }
 
-void CDDTestCommWrapper::CompleteExchange(const std::shared_ptr<Exchange>& exchange) {
+void CommWrapper::CompleteExchange(const std::shared_ptr<Exchange>& exchange) {
   const auto self = shared_from_this();
   ForgetBackground(exchange);
   const auto gui = model_.Gui();
@@ -79,7 +81,7 @@ void CDDTestCommWrapper::CompleteExchange(const std::shared_ptr<Exchange>& excha
   try {
     FinishAsync(exchange);
   } catch (const Failure& failure) {
-    TraceFailure(*gui, failure);
+    TraceFailure(*gui, ClassName(), failure);
     // Whoever waits for the end goes on all the same.
     IgnoreFailures([&] { gui->LifeSignal(LifeSignalCode::ExchangeFinished, reference); });
     throw;
@@ -87,9 +89,9 @@ void CDDTestCommWrapper::CompleteExchange(const std::shared_ptr<Exchange>& excha
   gui->LifeSignal(LifeSignalCode::ExchangeFinished, reference);
 }
 
-void CDDTestCommWrapper::FinishAsync(const std::shared_ptr<Exchange>& exchange) {
+void CommWrapper::FinishAsync(const std::shared_ptr<Exchange>& exchange) {
   const auto& reference = exchange->UserData();
-  RequireCommand(reference);
+  RequireCommand(reference, Source("AsyncExecuteCommand"));
   const auto transaction = reference->ReferredTransaction();
   const std::int16_t number = reference->Command()->Number();
   lastCommandNumber_ = number;
@@ -99,13 +101,22 @@ void CDDTestCommWrapper::FinishAsync(const std::shared_ptr<Exchange>& exchange) 
   model_.Kernel()->AsyncExecuteCommandEnd(reference);
 }
 
-void CDDTestCommWrapper::ForgetBackground(const std::shared_ptr<Exchange>& exchange) {
+void CommWrapper::ForgetBackground(const std::shared_ptr<Exchange>& exchange) {
   std::erase_if(background_,
                 [&](const UnderWay& underWay) { return underWay.exchange == exchange; });
 }
 
-// Nobody is told any more: the component model is gone.
-void CDDTestCommWrapper::EndBackground() {
+void CommWrapper::DropBackground(const std::shared_ptr<Exchange>& exchange) {
+  const auto underWay = std::ranges::find(background_, exchange, &UnderWay::exchange);
+  const auto link = underWay == background_.end() ? nullptr : underWay->link;
+  ForgetBackground(exchange);
+  exchange->SetCallback({});
+  std::erase(asynchronizer_.ExchangeQueue(), exchange);
+  if (link && IsUnderWay(exchange->State())) IgnoreFailures([&] { link->Cancel(exchange); });
+}
+
+// Nobody is told any more: the component model or the connection is gone.
+void CommWrapper::EndBackground() {
   asynchronizer_.ExchangeQueue().clear();
   const std::vector<UnderWay> ended = std::move(background_);
   background_.clear();

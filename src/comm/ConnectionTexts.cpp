@@ -1,0 +1,62 @@
+#include "comm/ConnectionTexts.h"
+
+#include <algorithm>
+
+#include "resources/ResText.h"
+#include "resources/enumDDResourceIDs.h"
+#include "text/modDDPrintF.h"
+
+namespace ZAFHartLib {
+
+using ZAFHartTypes::SupportedDevice;
+using ZAFHartTypes::hart::DeviceIdentity;
+
+namespace {
+
+// A value, as one that is in no language: "|" begins the next language of a text.
+std::string Neutral(std::string value) {
+  std::ranges::replace(value, '|', '/');
+  return value;
+}
+
+std::string Filled(std::int32_t id, const std::string& first, const std::string& second) {
+  ZAFHartTypes::PromptValues values;
+  values.Set("s1", Neutral(first));
+  values.Set("s2", Neutral(second));
+  return FormatDDString(ResText(id), values);
+}
+
+bool Fits(const SupportedDevice& device, const DeviceIdentity& found) {
+  return found.expandedType == device.expandedType &&
+         found.deviceRevision >= device.lowestRevision &&
+         found.deviceRevision <= device.highestRevision &&
+         (!device.manufacturer || *device.manufacturer == found.Manufacturer());
+}
+
+std::string ListText(std::span<const SupportedDevice> devices) {
+  std::string text;
+  for (const SupportedDevice& device : devices) {
+    if (!text.empty()) text += ", ";
+    text += device.Text();
+  }
+  return text;
+}
+
+}  // namespace
+
+std::string NoDeviceText(const std::string& address, const std::string& reason) {
+  return Filled(reason.empty() ? idErrNoDeviceAnswers : idErrNoDeviceReason, address, reason);
+}
+
+std::string WrongDeviceText(std::span<const SupportedDevice> supported,
+                            const DeviceIdentity& found) {
+  const auto fits = [&](const SupportedDevice& device) { return Fits(device, found); };
+  if (supported.empty() || std::ranges::any_of(supported, fits)) return {};
+  return Filled(idErrWrongDevice, ListText(supported), found.Text());
+}
+
+std::string OtherDeviceText(const std::string& before, const DeviceIdentity& found) {
+  return Filled(idErrOtherDevice, before, found.Text());
+}
+
+}  // namespace ZAFHartLib

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <span>
+#include <string>
+
+#include "ddobjects/SupportedDevices.h"
+#include "hart/DeviceIdentity.h"
+
+// Why there is no connection, as users are told: multilingual, and what to do about it.
+namespace ZAFHartLib {
+
+// `reason` is what the link tells; "" when nobody answered.
+std::string NoDeviceText(const std::string& address, const std::string& reason);
+// "" for a device that the DTM is for: one of `supported`, or any when that is empty.
+std::string WrongDeviceText(std::span<const ZAFHartTypes::SupportedDevice> supported,
+                            const ZAFHartTypes::hart::DeviceIdentity& found);
+// Another unit than before; `before` is what is known of that.
+std::string OtherDeviceText(const std::string& before,
+                            const ZAFHartTypes::hart::DeviceIdentity& found);
+
+}  // namespace ZAFHartLib
