@@ -11,8 +11,9 @@ namespace ZAFHartLib {
 // The kernel for callers that cannot deal with failures: hands every call on to the kernel that the
 // component model holds. A failure is reported to the user as an evaluation error, the recursion
 // flags are cleared so that later calls work, and the call answers nothing, false, 0 or an empty
-// list. DataModel is handed on as it is, and a cancelled operation stays one: its failure
-// (ErrorNumber::Cancelled) reaches the caller without a report. See IDDKernel for the operations.
+// list. DataModel is handed on as it is. A cancelled operation stays one, and so does one that ends
+// for want of a connection: these failures (ErrorNumber::Cancelled, NotConnected) reach the caller
+// without a report. See IDDKernel for the operations.
 class CSecureKernel : public platform::Object,
                       public ZAFHartTypes::IDDKernel,
                       public ZAFHartTypes::IDDKernel2 {

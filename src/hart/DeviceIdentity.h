@@ -32,8 +32,6 @@ struct DeviceIdentity {
   std::string LongAddress() const;
   // In few words, the same in every language: "0x2606 rev. 1, HART 5, ID 0x001234".
   std::string Text() const;
-
-  bool operator==(const DeviceIdentity&) const = default;
 };
 
 // Takes an identity out of a reply, status bytes included. Nothing for a reply that has none: too
