@@ -126,14 +126,14 @@ TEST(HartIpSession, WhatComesInsteadOfTheAnswer) {
        {"< 1 3 6 #3", "> 0 2 0 #4",
         "= 1 1 no reply: gw:5094/udp: The server answered with status 6", "< 1 2 6 #4", "closed"}},
       {"NAK: surely not carried out, once more in a new session",
-       {"< 15 3 14 #3", "closed", "+ 100", "opening", "open", "> 0 0 0 #4 010000EA60",
-        "< 1 0 0 #4 010000EA60", "> 0 3 0 #5 req1", "< 15 3 14 #5",
+       {"< 15 3 14 #3", "> 0 1 0 #4", "closed", "+ 100", "opening", "open", "> 0 0 0 #5 010000EA60",
+        "< 1 0 0 #5 010000EA60", "> 0 3 0 #6 req1", "< 15 3 14 #6",
         "= 1 1 no reply: gw:5094/udp: The server refused the request"}},
       {"nothing at all: the session is lost, the next request makes a new one",
-       {"ask 2 9", "+ 1000", "> 0 3 0 #3 req1", "+ 1000", "> 0 3 0 #3 req1", "+ 1000", "closed",
+       {"ask 2 9", "+ 1000", "> 0 3 0 #3 req1", "+ 1000", "> 0 3 0 #3 req1", "+ 1000", "> 0 1 0 #4", "closed",
         "= 1 1 no reply: gw:5094/udp: The server does not answer any more", "+ 100", "opening",
-        "open", "> 0 0 0 #4 010000EA60", "< 1 0 0 #4 010000EA60", "> 0 3 0 #5 req9",
-        "< 1 3 0 #3 ack1", "< 1 3 0 #5 ack9", "= 2 9 0000"}},
+        "open", "> 0 0 0 #5 010000EA60", "< 1 0 0 #5 010000EA60", "> 0 3 0 #6 req9",
+        "< 1 3 0 #3 ack1", "< 1 3 0 #6 ack9", "= 2 9 0000"}},
       {"nothing for this one, but the server lives",
        {"+ 1000", "> 0 3 0 #3 req1", "+ 1000", "> 0 3 0 #3 req1", "< 2 3 0 #0 ack1", "+ 1000",
         "= 1 1 no reply"}},
@@ -155,10 +155,10 @@ TEST(HartIpSession, WhatComesInsteadOfTheAnswer) {
 
 TEST(HartIpSession, TcpSendsOnceAndWaitsAsLong) {
   PlayInSession(Options(Transport::Tcp),
-                {"ask 1 1", "> 0 3 0 #3 req1", "+ 2999", "+ 1", "closed",
+                {"ask 1 1", "> 0 3 0 #3 req1", "+ 2999", "+ 1", "> 0 1 0 #4", "closed",
                  "= 1 1 no reply: gw:5094/tcp: The server does not answer any more"});
   PlayInSession(Options(Transport::Tcp),
-                {"ask 1 1", "> 0 3 0 #3 req1", "<hex 0101030000030003", "closed",
+                {"ask 1 1", "> 0 3 0 #3 req1", "<hex 0101030000030003", "> 0 1 0 #4", "closed",
                  "= 1 1 no reply: gw:5094/tcp: The server sent what is no HART-IP: the message has "
                  "an impossible byte count"});
 }

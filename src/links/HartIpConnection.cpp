@@ -56,9 +56,12 @@ HartIpConnection::HartIpConnection(const HartIpOptions& options, IpChannelOpener
     : options_(options), open_(std::move(open)), user_(user), pause_(kFirstPause) {}
 
 HartIpConnection::~HartIpConnection() {
-  if (HasSession()) {
-    Transmit({HartIpType::Request, HartIpId::SessionClose, 0, ++sequence_, {}});
-  }
+  Close();
+}
+
+void HartIpConnection::Close() {
+  if (!HasSession()) return;
+  Transmit({HartIpType::Request, HartIpId::SessionClose, 0, ++sequence_, {}});
 }
 
 void HartIpConnection::Want() {
@@ -94,6 +97,12 @@ void HartIpConnection::Transmit(const Message& message) {
 }
 
 void HartIpConnection::Lose(const std::string& reason) {
+  // A server that hears this has the session free for others.
+  Close();
+  End(reason);
+}
+
+void HartIpConnection::End(const std::string& reason) {
   if (state_ == State::Closed || state_ == State::Pausing) return;
   const bool hadOne = HasSession();
   channel_.reset();
@@ -124,7 +133,7 @@ void HartIpConnection::Take(const hart::DecodedHartIp& decoded) {
   const Message& message = decoded.message;
   switch (message.type) {
     case HartIpType::Request:
-      if (message.id == HartIpId::SessionClose) Lose("The server has closed the session");
+      if (message.id == HartIpId::SessionClose) End("The server has closed the session");
       return;
     case HartIpType::Publish:
       return user_.OnPublish(message);
@@ -190,7 +199,7 @@ void HartIpConnection::SendKeepAlive(int sendings) {
 }
 
 void HartIpConnection::TakeKeepAlive(const Message& message) {
-  if (!IsGranted(message)) return Lose("The server does not know the session any more");
+  if (!IsGranted(message)) return End("The server does not know the session any more");
   keepAliveAnswer_.Cancel();
   WatchIdleness();
 }

@@ -49,7 +49,7 @@ class HartIpConnection : private IpChannel::User {
   void SendAgain(std::uint16_t sequence, std::vector<std::uint8_t> body);
   // Asks the server for a sign of life; the session is lost when it gives none or denies it.
   void Confirm();
-  // Ends the session as lost.
+  // Gives the session up as lost; a new one can be made.
   void Lose(const std::string& reason);
   // Number of messages that came from the server.
   std::uint64_t Heard() const { return heard_; }
@@ -59,8 +59,10 @@ class HartIpConnection : private IpChannel::User {
 
   void OnOpen() override;
   void OnReceive(ZAFHartTypes::hart::Bytes bytes) override;
-  void OnLost(const std::string& reason) override { Lose(reason); }
+  void OnLost(const std::string& reason) override { End(reason); }
 
+  void Close();
+  void End(const std::string& reason);
   void Transmit(const Message& message);
   void Take(const ZAFHartTypes::hart::DecodedHartIp& decoded);
   void TakeFault(const ZAFHartTypes::hart::DecodedHartIp& decoded);
