@@ -7,6 +7,7 @@
 #include "hart/HexText.h"
 #include "hart/StatusBytes.h"
 #include "linksim/DeviceRequest.h"
+#include "linksim/ValueText.h"
 #include "platform/Platform.h"
 #include "types/Failure.h"
 
@@ -72,6 +73,16 @@ std::shared_ptr<EmulatedDevice> EmulatedDevice::OfThread() {
 std::optional<Variant> EmulatedDevice::Value(std::string_view name) const {
   const DeviceMemory::Cell* cell = memory_.Find(TextKey::Of(name));
   return cell ? std::optional(cell->value) : std::nullopt;
+}
+
+std::optional<std::uint32_t> EmulatedDevice::Number(std::string_view name) const {
+  std::optional<std::uint32_t> number;
+  ZAFHartTypes::IgnoreFailures([&] {
+    auto value = Value(name);
+    if (value && value->IsText()) value = ValueFromText(value->ToText(), TypeCode::Unsigned);
+    if (value) number = value->ToBits32();
+  });
+  return number;
 }
 
 void EmulatedDevice::SetValue(std::string_view name, const Variant& value) {

@@ -40,6 +40,8 @@ class EmulatedDevice {
   // The value of a variable; nothing for an unknown name. Values from a file are texts until a
   // command has told their type.
   std::optional<ZAFHartTypes::Variant> Value(std::string_view name) const;
+  // The same as an unsigned number of 32 bits; nothing for what is none.
+  std::optional<std::uint32_t> Number(std::string_view name) const;
   // Sets a value as the device itself would: no change of the configuration. Raises InvalidArgument
   // for a name that cannot stand in a file, PathFileAccess when the file cannot be written.
   void SetValue(std::string_view name, const ZAFHartTypes::Variant& value);

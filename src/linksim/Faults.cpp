@@ -28,7 +28,7 @@ struct Description {
 constexpr std::int32_t kMaxLatency = 600'000;
 constexpr std::int32_t kMaxCount = 1'000'000;
 
-constexpr std::array<Description, 10> kDescriptions{{
+constexpr std::array<Description, 11> kDescriptions{{
     {FaultKind::Latency, "latency", Form::Value, 0, kMaxLatency, "latency:MILLISECONDS"},
     {FaultKind::NoReply, "no-reply", Form::Count, 0, 0, "no-reply[:COUNT]"},
     {FaultKind::CommunicationError, "comm-error", Form::ValueAndCount, 1, 255,
@@ -41,6 +41,7 @@ constexpr std::array<Description, 10> kDescriptions{{
     {FaultKind::Overlong, "overlong", Form::Count, 0, 0, "overlong[:COUNT]"},
     {FaultKind::Corrupt, "corrupt", Form::Count, 0, 0, "corrupt[:COUNT]"},
     {FaultKind::WrongCommand, "wrong-command", Form::Count, 0, 0, "wrong-command[:COUNT]"},
+    {FaultKind::BadCheck, "bad-check", Form::Count, 0, 0, "bad-check[:COUNT]"},
 }};
 
 const Description& DescriptionOf(FaultKind kind) {
@@ -120,6 +121,9 @@ void Strike(const Fault& fault, ActiveFaults& active) {
       break;
     case FaultKind::WrongCommand:
       active.wrongCommand = true;
+      break;
+    case FaultKind::BadCheck:
+      active.badCheck = true;
       break;
   }
 }

@@ -22,6 +22,7 @@ enum class FaultKind : std::uint8_t {
   Overlong,            // overlong[:N]          the reply has bytes that nobody asked for
   Corrupt,             // corrupt[:N]           all bits of the reply's data are inverted
   WrongCommand,        // wrong-command[:N]     the reply is that of another command
+  BadCheck,            // bad-check[:N]         the reply's check byte is wrong: no link takes it
 };
 
 // One fault of a simulated link.
@@ -48,6 +49,7 @@ struct ActiveFaults {
   bool overlong = false;
   bool corrupt = false;
   bool wrongCommand = false;
+  bool badCheck = false;
 };
 
 // The faults of a link. Of no-reply, comm-error, response and busy one exchange suffers the first

@@ -2,9 +2,9 @@
 
 #include <algorithm>
 
-#include "ddobjects/Transaction.h"
 #include "hart/HexText.h"
 #include "hart/StatusBytes.h"
+#include "linksim/FaultyReply.h"
 #include "linksim/ItemCoding.h"
 #include "platform/Platform.h"
 #include "types/Failure.h"
@@ -20,10 +20,6 @@ using ZAFHartTypes::ExchangeState;
 using ZAFHartTypes::Failure;
 
 namespace {
-
-// What an overlong reply has at its end.
-constexpr std::size_t kSurplusBytes = 4;
-constexpr std::uint8_t kSurplusByte = 0xA5;
 
 Faults FaultsFromSettings() {
   const platform::Registry& registry = platform::Current().Registry();
@@ -41,26 +37,6 @@ Faults FaultsFromSettings() {
         failure.Number(), failure.Source(),
         "Setting of the key " + std::string(kEmulatorSettingsKey) + ": " + failure.Description());
   }
-}
-
-// The device does not carry the command out. What a code means, the command's definition says
-// first.
-bool IsRefusal(const Exchange& exchange, std::uint8_t responseCode) {
-  if (exchange.ItemsOf()) {
-    if (const auto* code = exchange.ItemsOf()->ResponseCodes().Find(responseCode)) {
-      return IsError(code->CodeType());
-    }
-  }
-  return !hart::IsCarriedOut(responseCode);
-}
-
-void Deform(std::vector<std::uint8_t>& reply, const ActiveFaults& faults) {
-  if (faults.corrupt) {
-    std::for_each(reply.begin() + hart::kStatusSize, reply.end(),
-                  [](std::uint8_t& byte) { byte = static_cast<std::uint8_t>(~byte); });
-  }
-  if (faults.truncated) reply.pop_back();
-  if (faults.overlong) reply.insert(reply.end(), kSurplusBytes, kSurplusByte);
 }
 
 void AddNamedValues(Exchange& exchange, const Frame& reply) {
@@ -115,10 +91,7 @@ void SimulatedLink::Complete(Exchange& exchange, const ActiveFaults& faults) {
   std::optional<Reply> reply;
   try {
     reply = ReplyTo(exchange, faults);
-    if (reply) {
-      Deform(*reply, faults);
-      Deliver(exchange, *std::move(reply));
-    }
+    if (reply) Deliver(exchange, *std::move(reply));
   } catch (const Failure&) {
     exchange.Finish(ExchangeState::NoReply, ExchangeResult::None);
     throw;
@@ -132,17 +105,9 @@ void SimulatedLink::Complete(Exchange& exchange, const ActiveFaults& faults) {
 
 std::optional<SimulatedLink::Reply> SimulatedLink::ReplyTo(const Exchange& exchange,
                                                            const ActiveFaults& faults) {
-  if (faults.noReply) return std::nullopt;
-  std::optional<Reply> reply;
-  if (faults.communicationError != 0) {
-    reply = Reply{faults.communicationError, DeviceStatus(exchange)};
-  } else if (faults.response != 0 && IsRefusal(exchange, faults.response)) {
-    reply = Reply{faults.response, DeviceStatus(exchange)};
-  } else {
-    reply = Answer(exchange);
-    if (reply && faults.response != 0) reply->front() = faults.response;
-  }
-  if (reply) reply->at(1) |= faults.deviceStatus;
+  std::optional<Reply> reply = FaultyReply(
+      exchange, faults, {[&] { return Answer(exchange); }, [&] { return DeviceStatus(exchange); }});
+  if (faults.badCheck) return std::nullopt;  // a wrong check byte: no link takes that for a reply
   return reply;
 }
 
