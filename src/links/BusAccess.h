@@ -1,0 +1,50 @@
+#pragma once
+
+#include "hart/LinkFrame.h"
+#include "platform/Clock.h"
+
+namespace HartLinks {
+
+// The times of the HART token-passing data link layer, as multiples of a character's time.
+struct BusTimes {
+  using Microseconds = std::chrono::microseconds;
+
+  BusTimes(Microseconds characterTime, bool primaryMaster);
+
+  platform::Milliseconds Characters(std::size_t count) const;  // rounded up
+
+  Microseconds character;
+  // RT1: silence after which a master may take a bus that it knows nothing of. 33 characters for
+  // the primary, 41 for the secondary master, longer than a device's time for its reply (STO, 28).
+  platform::Milliseconds takeIdle;
+  // RT2, 8 characters: what a master leaves to the other one after a transaction of its own.
+  platform::Milliseconds leaveToOther;
+  // A frame with a silence as long as this in it goes on no more. Adapters deliver in lumps, so it
+  // is never below 50 ms.
+  platform::Milliseconds frameGap;
+  // For the first byte of a reply from the end of the request on: RT1, and never below that of 1200
+  // baud, because what answers behind a pseudo terminal takes time as well.
+  platform::Milliseconds reply;
+};
+
+// Bus arbitration: says from what was heard and sent when this master may begin to send.
+class BusAccess {
+ public:
+  BusAccess(BusTimes times, bool primaryMaster) : times_(times), primaryMaster_(primaryMaster) {}
+
+  // Nothing is known of the bus: it was opened just now, or what it brought was no good frame.
+  void Lost(platform::Milliseconds now) { free_ = now + times_.takeIdle; }
+  // A byte outside of frames: preambles of one that comes, or noise.
+  void HeardByte(platform::Milliseconds now);
+  void Heard(const ZAFHartTypes::hart::LinkFrame& frame, platform::Milliseconds now);
+
+  // The moment from which this master may send.
+  platform::Milliseconds Free() const { return free_; }
+
+ private:
+  BusTimes times_;
+  bool primaryMaster_;
+  platform::Milliseconds free_{0};
+};
+
+}  // namespace HartLinks

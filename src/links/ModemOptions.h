@@ -1,0 +1,47 @@
+#pragma once
+
+#include <chrono>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "links/BusyPolicy.h"
+
+namespace HartLinks {
+
+// Registry key of "HartModem.Link", read when a link is made.
+inline constexpr std::string_view kModemSettingsKey =
+    "\\HKEY_LOCAL_MACHINE\\SOFTWARE\\Quillbridge\\HART\\Modem";
+
+enum class Parity : std::uint8_t { None, Odd, Even };
+
+enum class RequestToSend : std::uint8_t {
+  Untouched,     // a modem that finds out by itself when to send
+  WhileSending,  // on from before the first preamble until the last bit has left
+};
+
+// How a modem is reached. HART's own line is 1200 baud with odd parity.
+struct ModemOptions {
+  std::string port;  // "/dev/ttyUSB0"; a pseudo terminal will do
+  int baud = 1200;
+  Parity parity = Parity::Odd;
+  RequestToSend rts = RequestToSend::WhileSending;
+  bool watchCarrier = false;  // wait while the modem reports a carrier; not all cables bring it
+  bool primaryMaster = true;
+  int retries = 3;  // after the first attempt, 0 to 20
+  // Time of one character on the wire, 11 bits; nothing: as `baud` says, and none on a pseudo
+  // terminal, which has no speed.
+  std::optional<std::chrono::microseconds> characterTime;
+  BusyPolicy busy;
+};
+
+// From the registry: "Port", "Baud" (1200), "Parity" (odd, even, none), "Rts" (sending, untouched),
+// "Carrier" (ignore, watch), "Master" (primary, secondary), "Retries" (3), "CharacterTime"
+// (microseconds), "BusyAttempts", "BusyDelay". Raises InvalidArgument naming key and value.
+ModemOptions ModemOptionsFromSettings();
+
+// The time of a character that holds for these options.
+std::chrono::microseconds CharacterTimeOf(const ModemOptions& options);
+
+}  // namespace HartLinks
