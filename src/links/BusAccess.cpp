@@ -13,19 +13,25 @@ constexpr std::size_t kTakeIdlePrimary = 33;
 constexpr std::size_t kTakeIdleSecondary = 41;
 constexpr std::size_t kLeaveToOther = 8;
 constexpr Milliseconds kLeastFrameGap{50};
-constexpr Milliseconds kLeastReply{305};
+constexpr std::chrono::microseconds kCharacterAt1200Baud{9167};
 
 }  // namespace
 
-BusTimes::BusTimes(Microseconds characterTime, bool primaryMaster) : character(characterTime) {
+BusTimes::BusTimes(Microseconds characterTime, bool primaryMaster, Milliseconds latency)
+    : character(characterTime), latency_(latency) {
   takeIdle = Characters(primaryMaster ? kTakeIdlePrimary : kTakeIdleSecondary);
   leaveToOther = Characters(kLeaveToOther);
-  frameGap = std::max(leaveToOther, kLeastFrameGap);
-  reply = std::max(takeIdle, kLeastReply);
+  frameGap = std::max(leaveToOther, kLeastFrameGap) + latency;
 }
 
 Milliseconds BusTimes::Characters(std::size_t count) const {
   return std::chrono::ceil<Milliseconds>(character * count);
+}
+
+Milliseconds BusTimes::Reply(std::size_t requestSize) const {
+  const auto at1200Baud =
+      std::chrono::ceil<Milliseconds>(kCharacterAt1200Baud * (requestSize + kTakeIdlePrimary));
+  return latency_ + std::max(takeIdle, at1200Baud - Characters(requestSize));
 }
 
 void BusAccess::HeardByte(Milliseconds now) {

@@ -9,9 +9,14 @@ namespace HartLinks {
 struct BusTimes {
   using Microseconds = std::chrono::microseconds;
 
-  BusTimes(Microseconds characterTime, bool primaryMaster);
+  // `latency`: what lies between wire and program, of a wireless adapter for instance.
+  BusTimes(Microseconds characterTime, bool primaryMaster, platform::Milliseconds latency);
 
   platform::Milliseconds Characters(std::size_t count) const;  // rounded up
+  // From the end of a request of so many characters until the first byte of its reply at the
+  // latest: RT1. From the request's beginning on it is never less than at 1200 baud, because what
+  // answers behind a pseudo terminal may have such a line behind it.
+  platform::Milliseconds Reply(std::size_t requestSize) const;
 
   Microseconds character;
   // RT1: silence after which a master may take a bus that it knows nothing of. 33 characters for
@@ -22,9 +27,9 @@ struct BusTimes {
   // A frame with a silence as long as this in it goes on no more. Adapters deliver in lumps, so it
   // is never below 50 ms.
   platform::Milliseconds frameGap;
-  // For the first byte of a reply from the end of the request on: RT1, and never below that of 1200
-  // baud, because what answers behind a pseudo terminal takes time as well.
-  platform::Milliseconds reply;
+
+ private:
+  platform::Milliseconds latency_;
 };
 
 // Bus arbitration: says from what was heard and sent when this master may begin to send.

@@ -50,7 +50,7 @@ std::shared_ptr<HartLine> HartLine::Shared(const ModemOptions& options) {
 
 HartLine::HartLine(const ModemOptions& options, std::unique_ptr<ByteChannel> channel)
     : options_(options),
-      times_(CharacterTimeOf(options), options.primaryMaster),
+      times_(CharacterTimeOf(options), options.primaryMaster, options.latency),
       access_(times_, options.primaryMaster),
       channel_(std::move(channel)) {
   channel_->SetListener(this);
@@ -122,6 +122,7 @@ void HartLine::Transmit() {
   sent_ = current_->Frame();
   const auto bytes = hart::WithPreambles(hart::EncodeFrame(sent_), preambles_.For(sent_.address));
   phase_ = Phase::Sending;
+  sentSize_ = bytes.size();
   step_ =
       platform::Current().Loop().StartOnce(times_.Characters(bytes.size()) + kSendingSlack, [this] {
         channel_->Close();
@@ -138,7 +139,7 @@ void HartLine::OnSent() {
   access_.Lost(now);
   if (!current_) return GoOn();
   phase_ = Phase::AwaitingReply;
-  replyUntil_ = now + times_.reply;
+  replyUntil_ = now + times_.Reply(sentSize_);
   AwaitReply();
 }
 

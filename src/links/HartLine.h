@@ -75,6 +75,7 @@ class HartLine : public FrameCarrier, private ByteChannel::Listener {
   platform::Subscription step_;            // what comes next in this phase
   std::shared_ptr<FrameRequest> current_;  // nothing when it was cancelled
   ZAFHartTypes::hart::LinkFrame sent_;
+  std::size_t sentSize_ = 0;                                                     // with preambles
   int attempt_ = 0;                                                              // from 0
   ZAFHartTypes::hart::FrameFault fault_ = ZAFHartTypes::hart::FrameFault::None;  // last one met
   platform::Milliseconds giveUpBus_{0};

@@ -42,6 +42,7 @@ ModemOptions ModemOptionsFromSettings() {
   if (const int time = settings.Number("CharacterTime", -1, 0, 1'000'000); time >= 0) {
     options.characterTime = std::chrono::microseconds{time};
   }
+  options.latency = platform::Milliseconds{settings.Number("Latency", 0, 0, 10'000)};
   options.busy = settings.Busy();
   return options;
 }

@@ -33,12 +33,16 @@ struct ModemOptions {
   // Time of one character on the wire, 11 bits; nothing: as `baud` says, and none on a pseudo
   // terminal, which has no speed.
   std::optional<std::chrono::microseconds> characterTime;
+  // What an adapter (Bluetooth, a port server) adds between wire and program; waited for in
+  // addition.
+  platform::Milliseconds latency{0};
   BusyPolicy busy;
 };
 
 // From the registry: "Port", "Baud" (1200), "Parity" (odd, even, none), "Rts" (sending, untouched),
 // "Carrier" (ignore, watch), "Master" (primary, secondary), "Retries" (3), "CharacterTime"
-// (microseconds), "BusyAttempts", "BusyDelay". Raises InvalidArgument naming key and value.
+// (microseconds), "Latency" (milliseconds), "BusyAttempts", "BusyDelay". Raises InvalidArgument
+// naming key and value.
 ModemOptions ModemOptionsFromSettings();
 
 // The time of a character that holds for these options.
