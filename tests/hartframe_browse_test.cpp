@@ -1,85 +1,12 @@
 // The screen of the frame application, driven with keys over the demo device.
-#include "hartframe/TextReport.h"
-#include "hartframe/browse/Browser.h"
 #include "interfaces/InternalNames.h"
 #include "support/HartframeTest.h"
-#include "support/screen/ScriptedTerminal.h"
+#include "support/screen/BrowseTest.h"
 
 namespace {
 
 using namespace support;
-using hartframe::browse::KeyCode;
-using Sees = ScriptedTerminal::Sees;
-using Hides = ScriptedTerminal::Hides;
-using Steps = ScriptedTerminal::Steps;
-using Now = ScriptedTerminal::Now;
-using Until = ScriptedTerminal::Until;
 using testing::HasSubstr;
-
-const auto kEnter = Press(KeyCode::Enter);
-const auto kEscape = Press(KeyCode::Escape);
-const auto kUp = Press(KeyCode::Up);
-const auto kDown = Press(KeyCode::Down);
-const auto kEnd = Press(KeyCode::End);
-
-Steps operator+(Steps a, const Steps& b) {
-  a.insert(a.end(), b.begin(), b.end());
-  return a;
-}
-
-Steps Times(int count, const hartframe::browse::Key& key) {
-  return Steps(static_cast<std::size_t>(count), key);
-}
-
-// Replaces what a field holds.
-Steps Typed(const std::string& text) {
-  Steps steps = Times(40, Press(KeyCode::Backspace));
-  for (const char c : text) steps.emplace_back(Press(static_cast<char32_t>(c)));
-  steps.emplace_back(kEnter);
-  return steps;
-}
-
-class Browse : public testing::Test {
- protected:
-  Browse() {
-    folder_.Write("device.txt", TempFolder::Read(ZAF_DEMO_DEVICE));
-    platform_.Classes().LoadPlugin(std::filesystem::path(ZAF_DTM_FOLDER) /
-                                   "libsampletemperature.so");
-    options_.command = hartframe::CommandKind::Browse;
-    options_.dtm = "SampleTemperature";
-    options_.deviceFile = folder_ / "device.txt";
-    options_.link = hartframe::LinkKind::Device;
-  }
-
-  hartframe::ExitCode Play(Steps steps) {
-    hartframe::Session session(options_, console_, speech_, report_);
-    session_ = &session;
-    session.Open();
-    ScriptedTerminal terminal(*clock_);
-    terminal_ = &terminal;
-    const auto pending = hartframe::LoadPending(session);
-    hartframe::browse::Browser browser(session, terminal);
-    terminal.Play(browser.KeyTarget(), std::move(steps));
-    const auto code = browser.Run(pending);
-    hartframe::KeepPending(session, browser.NotAccepted());
-    return code;
-  }
-  std::string Device() const { return TempFolder::Read(options_.deviceFile); }
-  std::string Pending() const {
-    return TempFolder::Read(options_.deviceFile.string() + ".pending");
-  }
-
-  TempFolder folder_;
-  platform::ManualClock* clock_ = new platform::ManualClock;
-  platform::Platform platform_{std::unique_ptr<platform::Clock>(clock_)};
-  platform::PlatformScope scope_{platform_};
-  hartframe::Options options_;
-  hartframe::Console console_;
-  hartframe::Speech speech_{"en"};
-  hartframe::TextReport report_{console_, speech_};
-  hartframe::Session* session_ = nullptr;
-  ScriptedTerminal* terminal_ = nullptr;
-};
 
 const Steps kToService =
     Steps{Sees{"Temperature transmitter"}, kEnter, Sees{"Device setup"}, kDown, kDown, kEnter,

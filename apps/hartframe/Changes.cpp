@@ -57,20 +57,14 @@ void RequireOneValue(Session& session, const Change& change) {
                                       OneLine(change.value), session.Pending().Path().string()}));
 }
 
-// Tells where they are kept.
-void KeepInFiles(Session& session, const std::vector<PendingChange>& marked,
-                 const std::vector<PendingChange>& notAccepted) {
-  std::vector<PendingChange> kept = notAccepted;
-  if (session.Kept())
-    session.Kept()->Keep();
-  else
-    kept.insert(kept.begin(), marked.begin(), marked.end());
-  session.Pending().Save(kept);
-  const auto tell = [&](const std::filesystem::path& file) {
-    session.Tell().Note("pendingKept", session.Say()(Text::PendingKept, {file.string()}));
-  };
-  if (session.Kept() && !marked.empty()) tell(session.Kept()->Path());
-  if (!kept.empty() && session.Pending().Keeps()) tell(session.Pending().Path());
+std::vector<PendingChange> LinesOf(const std::vector<Change>& changes) {
+  std::vector<PendingChange> lines;
+  for (const Change& change : changes) lines.push_back({change.definition.Name(), change.value});
+  return lines;
+}
+
+void TellKept(Session& session, const std::filesystem::path& file) {
+  session.Tell().Note("pendingKept", session.Say()(Text::PendingKept, {file.string()}));
 }
 
 }  // namespace
@@ -163,18 +157,26 @@ void GiveUpChange(Session& session, const Definition& variable) {
   session.Database().SetVariableAvailable(variable, false);
 }
 
+void SaveChanges(Session& session, const std::vector<Change>& notAccepted) {
+  std::vector<Change> changes = notAccepted;
+  if (session.Kept()) {
+    session.Kept()->Keep();
+  } else {
+    const std::vector<Change> marked = PendingChanges(session);
+    changes.insert(changes.begin(), marked.begin(), marked.end());
+  }
+  session.Pending().Save(LinesOf(changes));
+}
+
 void KeepPending(Session& session, const std::vector<Change>& notAccepted) {
   std::vector<VariableRow> rows;
-  std::vector<PendingChange> marked;
-  std::vector<PendingChange> others;
-  for (const Change& change : PendingChanges(session)) {
-    rows.push_back(session.Row(change.definition));
-    marked.push_back({change.definition.Name(), change.value});
-  }
-  for (const Change& change : notAccepted)
-    others.push_back({change.definition.Name(), change.value});
+  for (const Definition& definition : PendingVariables(session))
+    rows.push_back(session.Row(definition));
   session.Tell().Pending(rows);
-  KeepInFiles(session, marked, others);
+  SaveChanges(session, notAccepted);
+  if (session.Kept() && !rows.empty()) TellKept(session, session.Kept()->Path());
+  const bool isInFile = !notAccepted.empty() || (!session.Kept() && !rows.empty());
+  if (isInFile && session.Pending().Keeps()) TellKept(session, session.Pending().Path());
 }
 
 void RequireWriteAccess(const Session& session) {

@@ -36,6 +36,9 @@ std::vector<ZAFHartTypes::Definition> PendingVariables(Session& session);
 std::vector<Change> PendingChanges(Session& session);
 // The variable is no longer to be written; its value is the device's again once it is read.
 void GiveUpChange(Session& session, const ZAFHartTypes::Definition& variable);
+// Keeps for a later run what is still to be written, and `notAccepted`, as KeepPending does; tells
+// nothing.
+void SaveChanges(Session& session, const std::vector<Change>& notAccepted);
 // Tells what is still to be written, and keeps it for a later run together with `notAccepted`: in
 // the data set on disk, when the session works on one; what is not accepted, and all without one,
 // in the file of pending changes.

@@ -201,7 +201,10 @@ void AddCommands(CommandAdder& adder, Options& options) {
       ->allow_extra_args(false);
   run.add_flag("--yes", options.yes, "Acknowledge what only informs, without an --answer for it");
 
-  adder.Add(CommandKind::Browse, "browse", "Work with the DTM's menus on a screen");
+  CLI::App& browse =
+      adder.Add(CommandKind::Browse, "browse", "Work with the DTM's menus on a screen");
+  browse.add_flag("--pair", options.browsePair,
+                  "The --dataset beside that of the device, as in pair and compare");
 
   // The program runs itself with this, to see whether a plug-in can be loaded at all.
   CLI::App& probe = adder.Add(CommandKind::ProbePlugin, "probe-plugin", "");
@@ -229,14 +232,17 @@ void Complete(Parsed& parsed) {
   if (options.dtm.empty() && options.command != CommandKind::ProbePlugin) {
     throw CLI::RequiredError("--dtm");
   }
-  const bool isPair =
-      options.command == CommandKind::Pair || options.command == CommandKind::Compare;
-  if (isPair && options.dataSetFile.empty()) throw CLI::RequiredError("--dataset");
+  if (OpensPair(options) && options.dataSetFile.empty()) throw CLI::RequiredError("--dataset");
   if (options.command == CommandKind::Browse) CheckBrowse(options);
   if (options.traceDepth == 0) options.traceDepth = options.trace.value_or(1);
 }
 
 }  // namespace
+
+bool OpensPair(const Options& options) {
+  return options.command == CommandKind::Pair || options.command == CommandKind::Compare ||
+         options.browsePair;
+}
 
 std::string LanguageFromEnvironment() {
   for (const char* name : {"LC_ALL", "LC_MESSAGES", "LANG"}) {

@@ -48,6 +48,7 @@ struct Options {
   bool uploadPair = false;         // pair: from the device to the data set
   bool downloadPair = false;       // pair: from the data set to the device
   bool differencesOnly = false;    // of compare
+  bool browsePair = false;         // browse: the data set beside that of the device
   bool noUpload = false;           // save: what the data set holds as it is
 
   std::optional<int> trace;  // highest level of trace lines; nothing: no tracing
@@ -66,6 +67,9 @@ struct Options {
 
   std::filesystem::path plugin;  // to probe
 };
+
+// The run opens the data set on disk as the offline side of a pair.
+bool OpensPair(const Options& options);
 
 // Reads the command line. Ends the process itself for --help and --version (code 0) and for wrong
 // arguments (ExitCode::Usage, with the reason on standard error).

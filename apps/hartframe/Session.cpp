@@ -27,7 +27,7 @@ namespace names = ZAFHartTypes::internal_names;
 // In a pair the changes are the offline side's.
 std::filesystem::path PendingPath(const Options& options, bool isOffline) {
   if (options.deviceFile.empty()) return {};
-  if (!isOffline && options.command == CommandKind::Pair) return {};
+  if (!isOffline && OpensPair(options)) return {};
   return std::filesystem::path(options.deviceFile.string() + ".pending");
 }
 

@@ -39,6 +39,8 @@ class Session {
   void Open();
 
   const Options& Settings() const { return options_; }
+  // The offline side of a pair.
+  bool IsOffline() const { return isOffline_; }
   const Speech& Say() const { return speech_; }
   Report& Tell() { return report_; }
   Console& Terminal() { return console_; }

@@ -56,10 +56,6 @@ std::vector<std::string> MenuCells(const MenuRow& row, const char* indent, const
           StateText(row, speech)};
 }
 
-std::string ValueWithUnit(const VariableRow& row) {
-  return row.unit.empty() || row.value.empty() ? row.value : row.value + ' ' + row.unit;
-}
-
 }  // namespace
 
 std::string MessageText(const ZAFHartTypes::UserMessage& message) {
@@ -133,7 +129,7 @@ void TextReport::Pending(std::span<const VariableRow> rows) {
   if (rows.empty()) return;
   console_.Out(speech_(Text::PendingTitle));
   for (const VariableRow& row : rows) {
-    console_.Out("  " + row.name + " = " + row.value + (row.unit.empty() ? "" : ' ' + row.unit));
+    console_.Out("  " + row.name + " = " + ValueWithUnit(row));
   }
 }
 

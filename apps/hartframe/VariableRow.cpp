@@ -40,6 +40,10 @@ std::string DisplayWithUnit(const Variable& variable, const Variant& value, cons
   return WithUnit(variable, DisplayValue(variable, value, speech), speech);
 }
 
+std::string ValueWithUnit(const VariableRow& row) {
+  return row.unit.empty() || row.value.empty() ? row.value : row.value + ' ' + row.unit;
+}
+
 std::string StateText(const VariableRow& row, const Speech& speech) {
   const Variable& variable = *row.variable;
   const bool deviceHolds = !variable.Attributes().IsLibraryHeld();

@@ -31,6 +31,9 @@ std::string WithUnit(const ZAFHartTypes::Variable& variable, const std::string& 
 std::string DisplayWithUnit(const ZAFHartTypes::Variable& variable,
                             const ZAFHartTypes::Variant& value, const Speech& speech);
 
+// The row's value with its unit.
+std::string ValueWithUnit(const VariableRow& row);
+
 // What is worth knowing about the variable's state, "" when all is well.
 std::string StateText(const VariableRow& row, const Speech& speech);
 

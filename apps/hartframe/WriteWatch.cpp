@@ -50,6 +50,11 @@ WriteWatch::WriteWatch(Session& session, const std::vector<Definition>& variable
     meant_.push_back({definition, session_.Variable(definition)->Value()});
 }
 
+void WriteWatch::Expect(const Definition& variable, const Variant& value) {
+  std::erase_if(meant_, [&](const Meant& meant) { return meant.definition.IsSameAs(variable); });
+  meant_.push_back({variable, value});
+}
+
 std::vector<WriteResult> WriteWatch::Results() {
   std::vector<WriteResult> results;
   for (const Meant& meant : meant_) results.push_back(ResultOf(meant));

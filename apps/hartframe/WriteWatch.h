@@ -12,6 +12,8 @@ class WriteWatch {
  public:
   WriteWatch(Session& session, const std::vector<ZAFHartTypes::Definition>& variables);
 
+  // The variable as well, or with this value.
+  void Expect(const ZAFHartTypes::Definition& variable, const ZAFHartTypes::Variant& value);
   // In the order of the variables. Reads back what the write has left unknown.
   std::vector<WriteResult> Results();
   // Marks what the device did not answer to as still to be written, with the value that was meant.

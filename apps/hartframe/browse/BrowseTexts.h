@@ -127,6 +127,33 @@ inline constexpr const char* kDownloadQuestion =
 inline constexpr const char* kWriteAll =
     "Write all|de|Alles schreiben|fr|Tout écrire|it|Scrivere tutto|es|Escribir todo|kt|Zenbu kaku";
 
+inline constexpr const char* kSavedIn =
+    "Saved in {0}.|de|In {0} gesichert.|fr|Gardé dans {0}.|it|Salvato in {0}.|es|Guardado en {0}."
+    "|kt|{0} ni hozon shimashita.";
+inline constexpr const char* kNoSaveFile =
+    "There is no file to save in: --dataset or --device names one.|de|Es gibt keine Datei zum "
+    "Sichern: --dataset oder --device nennt eine.|fr|Il n'y a pas de fichier pour garder : "
+    "--dataset ou --device en nomme un.|it|Non c'è un file in cui salvare: --dataset o --device ne "
+    "indica uno.|es|No hay archivo para guardar: --dataset o --device indica uno.|kt|Hozon suru "
+    "fairu ga arimasen: --dataset ka --device de shitei shimasu.";
+inline constexpr const char* kWritesAtOnce =
+    "writes at once|de|schreibt sofort|fr|écrit aussitôt|it|scrive subito|es|escribe al instante"
+    "|kt|sugu kaku";
+inline constexpr const char* kImmediateOn =
+    "Changes are written at once from now on, and what waits with the next one."
+    "|de|Änderungen werden ab jetzt sofort geschrieben, was wartet mit der nächsten."
+    "|fr|Désormais les changements sont écrits aussitôt, ceux qui attendent avec le prochain."
+    "|it|D'ora in poi le modifiche si scrivono subito, quelle in attesa con la prossima."
+    "|es|Desde ahora los cambios se escriben al instante, los que esperan con el próximo."
+    "|kt|Kore kara henkou o sugu kakimasu. Mi-kakikomi no mono wa tsugi to issho desu.";
+inline constexpr const char* kImmediateOff =
+    "Changes wait for w from now on.|de|Änderungen warten ab jetzt auf w."
+    "|fr|Désormais les changements attendent w.|it|D'ora in poi le modifiche attendono w."
+    "|es|Desde ahora los cambios esperan w.|kt|Kore kara henkou wa w o machimasu.";
+inline constexpr const char* kWrittenAtOnce =
+    "{0} = {1}: written|de|{0} = {1}: geschrieben|fr|{0} = {1} : écrit|it|{0} = {1}: scritto"
+    "|es|{0} = {1}: escrito|kt|{0} = {1}: kakimashita";
+
 // --- leaving ---
 inline constexpr const char* kQuit = "Quit|de|Beenden|fr|Quitter|it|Uscire|es|Salir|kt|Owaru";
 inline constexpr const char* kQuitQuestion =
@@ -139,6 +166,9 @@ inline constexpr const char* kWriteAndQuit =
 inline constexpr const char* kKeepAndQuit =
     "Keep them in {0} and quit|de|In {0} aufbewahren und beenden|fr|Les garder dans {0} et quitter"
     "|it|Conservarle in {0} e uscire|es|Guardarlos en {0} y salir|kt|{0} ni hozon shite owaru";
+inline constexpr const char* kQuitUnsaved =
+    "Quit without saving|de|Beenden, ohne zu sichern|fr|Quitter sans garder|it|Uscire senza salvare"
+    "|es|Salir sin guardar|kt|Hozon sezu ni owaru";
 inline constexpr const char* kLoseAndQuit =
     "Lose them and quit|de|Verwerfen und beenden|fr|Les perdre et quitter|it|Perderle e uscire"
     "|es|Perderlos y salir|kt|Sutete owaru";
@@ -169,30 +199,36 @@ inline constexpr const char* kNoMessages =
 inline constexpr const char* kAllKeys =
     "Enter, →  open, edit or run the item\nEsc, ←  back\nF1, ?  this help\nw  write the changes\n"
     "u  load the data set from the device\nd  load it and write all of it\nr  read what is shown "
-    "again\nx, Del  give up the item's change\nl  language\nm  messages\nq  quit\nCtrl-C  cancel, "
+    "again\ni  write changes at once, or not\ns  save\nx, Del  give up the item's change\nl  "
+    "language\nm  messages\nq  quit\nCtrl-C  cancel, "
     "or quit"
     "|de|Enter, →  öffnen, ändern oder ausführen\nEsc, ←  zurück\nF1, ?  diese Hilfe\nw  "
     "Änderungen "
     "schreiben\nu  Datensatz aus dem Gerät laden\nd  laden und alles schreiben\nr  Gezeigtes neu "
-    "lesen\nx, Entf  Änderung verwerfen\nl  Sprache\nm  Meldungen\nq  beenden\nStrg-C  abbrechen "
+    "lesen\ni  Änderungen sofort schreiben oder nicht\ns  sichern\nx, Entf  Änderung verwerfen\nl  "
+    "Sprache\nm  Meldungen\nq  beenden\nStrg-C  abbrechen "
     "oder beenden"
     "|fr|Entrée, →  ouvrir, modifier ou exécuter\nEsc, ←  retour\nF1, ?  cette aide\nw  écrire les "
     "changements\nu  lire les données de l'appareil\nd  lire puis tout écrire\nr  relire ce qui "
     "est "
-    "affiché\nx, Suppr  abandonner le changement\nl  langue\nm  messages\nq  quitter\nCtrl-C  "
+    "affiché\ni  écrire les changements aussitôt, ou non\ns  garder\nx, Suppr  abandonner le "
+    "changement\nl  langue\nm  messages\nq  quitter\nCtrl-C  "
     "annuler ou quitter"
     "|it|Invio, →  aprire, modificare o eseguire\nEsc, ←  indietro\nF1, ?  questo aiuto\nw  "
     "scrivere "
     "le modifiche\nu  leggere i dati dal dispositivo\nd  leggere e scrivere tutto\nr  rileggere "
     "ciò "
-    "che è mostrato\nx, Canc  annullare la modifica\nl  lingua\nm  messaggi\nq  uscire\nCtrl-C  "
+    "che è mostrato\ni  scrivere subito le modifiche, o no\ns  salvare\nx, Canc  annullare la "
+    "modifica\nl  lingua\nm  messaggi\nq  uscire\nCtrl-C  "
     "annullare o uscire"
     "|es|Intro, →  abrir, editar o ejecutar\nEsc, ←  atrás\nF1, ?  esta ayuda\nw  escribir los "
     "cambios\nu  leer los datos del dispositivo\nd  leer y escribir todo\nr  leer de nuevo lo "
-    "mostrado\nx, Supr  descartar el cambio\nl  idioma\nm  mensajes\nq  salir\nCtrl-C  cancelar o "
+    "mostrado\ni  escribir los cambios al instante, o no\ns  guardar\nx, Supr  descartar el "
+    "cambio\nl  idioma\nm  mensajes\nq  salir\nCtrl-C  cancelar o "
     "salir"
     "|kt|Enter, →  hiraku, henshuu, jikkou\nEsc, ←  modoru\nF1, ?  kono herupu\nw  henkou o kaku\n"
-    "u  kiki kara deeta o yomu\nd  yonde zenbu kaku\nr  hyouji o yominaosu\nx, Del  henkou o "
+    "u  kiki kara deeta o yomu\nd  yonde zenbu kaku\nr  hyouji o yominaosu\ni  henkou o sugu kaku "
+    "ka dou ka\ns  hozon suru\nx, Del  henkou o "
     "torikesu\nl  gengo\nm  messeeji\nq  owaru\nCtrl-C  chuushi, mata wa owaru";
 
 }  // namespace hartframe::browse::texts

@@ -1,19 +1,21 @@
 #pragma once
 
 #include "hartframe/MethodEnd.h"
+#include "hartframe/browse/ComparePage.h"
 #include "hartframe/browse/DataSetActions.h"
-#include "hartframe/browse/Editing.h"
-#include "hartframe/browse/FrameControl.h"
-#include "hartframe/browse/Messages.h"
-#include "hartframe/browse/PageStack.h"
 #include "hartframe/browse/Screen.h"
+#include "hartframe/browse/Side.h"
 
 namespace hartframe::browse {
 
-// The DTM's menus on a screen. Registers its control with the GUI manager for its lifetime.
-class Browser : public Base, public IFrame {
+// The DTM's menus on a screen: of one data set, or of both sides of a pair, one of which is in
+// front.
+class Browser : public Base, public ISideOwner {
  public:
+  // The data set of the session alone.
   Browser(Session& session, Terminal& terminal);
+  // Both sides, the offline one in front.
+  Browser(DataSetPair& pair, Terminal& terminal);
   ~Browser() override;
 
   // Keys for the screen's terminal.
@@ -21,29 +23,30 @@ class Browser : public Base, public IFrame {
   // Until the user leaves. `pending`: changes of earlier runs.
   ExitCode Run(const std::vector<Change>& pending);
   // Changes of earlier runs that could not be made.
-  const std::vector<Change>& NotAccepted() const { return actions_.NotAccepted(); }
+  const std::vector<Change>& NotAccepted() const { return actions_->NotAccepted(); }
+  // The user has left without keeping anything.
+  bool IsAbandoned() const { return actions_->IsAbandoned(); }
 
   // --- Base ---
   void Draw(Picture& picture) override;
   void OnKey(const Key& key) override;
   void OnIdle() override;
-  bool IsLocked() const override { return control_->LockControls(); }
+  bool IsLocked() const override;
 
  private:
-  // --- IFrame ---
-  void OnShown(const std::shared_ptr<ZAFHartTypes::DDObject>& object) override;
-  void OnExchange(bool ended) override;
-  void OnRefreshView() override { Changed(); }
-  ZAFHartTypes::Variant EditedValue(const ZAFHartTypes::Definition& object) override;
-  std::int32_t ShowMessage(ZAFHartTypes::UserMessage& message) override;
-  void HideMessage(std::int32_t displayId) override { messages_.Hide(displayId); }
-  void CollectShown(ZAFHartTypes::DefinitionList& variables) override;
-  void OnLocked() override { screen_.Redraw(); }
+  Browser(Session& online, DataSetPair* pair, Terminal& terminal);
+
+  // --- ISideOwner ---
+  void OnChanged() override;
+  std::vector<Row> Shown() const override { return sides_[front_]->Pages().Visible(); }
 
   // --- keys ---
   void OnCharacter(char32_t key);
+  void OnDataSetKey(char32_t key);
   void OpenSelected();
+  void EditSelected(const Row& row);
   void RunMethod(const Row& row);
+  void TellEnd(const Row& row, const MethodWatch& watch, bool finished, bool isBroken);
   void TellAborted(const Row& row, AbortCause cause);
   void ClosePage();
   void Quit();
@@ -52,24 +55,29 @@ class Browser : public Base, public IFrame {
   void ChooseLanguage();
   void ReadAgain();
   void GiveUpSelected();
+  void ToOtherSide();
+  void Compare();
+  void ToggleImmediate();
   // Work in which errors stop the user.
   bool WorkForUser(const std::function<void()>& operation,
                    const std::function<void()>& onBreak = {});
 
+  Side& Front() { return *sides_[front_]; }
+  Session& FrontSession() { return Front().Data(); }
+  PageStack& Pages() { return Front().Pages(); }
   // Why nothing can be changed; "" when it can.
   std::string WhyReadOnly();
   // False tells why.
   bool MayChange();
+  std::string PathNote();
   std::string StatusLine();
-  void Changed();
 
-  Session& session_;
+  Session& online_;  // the only one, or that of the device
+  DataSetPair* const pair_;
   Screen screen_;
-  Messages messages_;
-  PageStack pages_;
-  Editing editing_;
-  DataSetActions actions_;
-  std::shared_ptr<FrameControl> control_;
+  std::vector<std::unique_ptr<Side>> sides_;
+  std::size_t front_ = 0;
+  std::unique_ptr<DataSetActions> actions_;
   bool isLeaving_ = false;
   bool isStale_ = true;
   std::string pathNote_;

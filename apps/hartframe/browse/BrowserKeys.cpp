@@ -4,27 +4,15 @@
 #include "hartframe/Reading.h"
 #include "hartframe/browse/BrowseTexts.h"
 #include "hartframe/browse/Browser.h"
-#include "hartframe/dataset/KeptDataSet.h"
+#include "hartframe/browse/PairScreenTexts.h"
 
 namespace hartframe::browse {
 
-using ZAFHartTypes::Definition;
 using ZAFHartTypes::ObjectKind;
-
-namespace {
-
-struct Language {
-  const char* code;
-  const char* name;
-};
-constexpr Language kLanguages[] = {{"en", "English"},  {"de", "Deutsch"}, {"fr", "Français"},
-                                   {"it", "Italiano"}, {"es", "Español"}, {"kt", "Nihongo"}};
-
-}  // namespace
 
 void Browser::OnKey(const Key& key) {
   screen_.Redraw();
-  if (pages_.OnKey(key)) return;
+  if (Pages().OnKey(key)) return;
   switch (key.code) {
     case KeyCode::Enter:
     case KeyCode::Right:
@@ -41,6 +29,9 @@ void Browser::OnKey(const Key& key) {
     case KeyCode::Delete:
       GiveUpSelected();
       break;
+    case KeyCode::Tab:
+      ToOtherSide();
+      break;
     case KeyCode::Character:
       OnCharacter(key.character);
       break;
@@ -51,20 +42,17 @@ void Browser::OnKey(const Key& key) {
 
 void Browser::OnCharacter(char32_t key) {
   switch (key) {
-    case U'w':
-      if (MayChange()) actions_.Write();
-      break;
-    case U'u':
-      actions_.Upload();
-      break;
-    case U'd':
-      if (MayChange()) actions_.Download();
+    case U'c':
+      Compare();
       break;
     case U'r':
       ReadAgain();
       break;
     case U'x':
       GiveUpSelected();
+      break;
+    case U'i':
+      ToggleImmediate();
       break;
     case U'l':
       ChooseLanguage();
@@ -79,9 +67,37 @@ void Browser::OnCharacter(char32_t key) {
       Quit();
       break;
     default:
+      OnDataSetKey(key);
       break;
   }
-  Changed();
+  OnChanged();
+}
+
+// The offline side's changes reach the device with a download.
+void Browser::OnDataSetKey(char32_t key) {
+  switch (key) {
+    case U'w':
+      if (!MayChange()) break;
+      if (FrontSession().IsOffline())
+        actions_->Download();
+      else
+        actions_->Write();
+      break;
+    case U'u':
+      actions_->Upload();
+      break;
+    case U'd':
+      if (MayChange()) actions_->Download();
+      break;
+    case U'R':
+      actions_->RefreshOnline();
+      break;
+    case U's':
+      actions_->Save();
+      break;
+    default:
+      break;
+  }
 }
 
 bool Browser::MayChange() {
@@ -92,73 +108,91 @@ bool Browser::MayChange() {
 
 bool Browser::WorkForUser(const std::function<void()>& operation,
                           const std::function<void()>& onBreak) {
-  const bool before = messages_.ErrorsStop();
-  messages_.SetErrorsStop(true);
+  Messages& messages = Front().Talk();
+  const bool before = messages.ErrorsStop();
+  messages.SetErrorsStop(true);
   const bool finished = screen_.Work(operation, onBreak);
-  messages_.SetErrorsStop(before);
-  Changed();
+  messages.SetErrorsStop(before);
+  OnChanged();
   return finished;
 }
 
 // --- pages and items ---
 
 void Browser::OpenSelected() {
-  pages_.Refresh();
-  const Row* selected = pages_.Selected();
+  Pages().Refresh();
+  const Row* selected = Pages().Selected();
   if (!selected) return;
   const Row row = *selected;
   if (row.view.kind == ObjectKind::Variable) {
-    const std::string why = WhyNotEditable(row, WhyReadOnly(), session_.Say());
-    if (why.empty())
-      editing_.Edit(pages_.Top(), row);
-    else
-      screen_.Tell(Tone::Bad, why);
-    Changed();
+    EditSelected(row);
   } else if (row.view.kind == ObjectKind::Method) {
     RunMethod(row);
   } else {
     std::unique_ptr<Page> page;
-    WorkForUser([&] { page = pages_.Top().Open(row.item); });
-    if (page) pages_.Push(std::move(page));
+    WorkForUser([&] { page = Pages().Top().Open(row.item); });
+    if (page) Pages().Push(std::move(page));
   }
 }
 
+void Browser::EditSelected(const Row& row) {
+  const std::string why = WhyNotEditable(row, WhyReadOnly(), FrontSession().Say());
+  if (why.empty())
+    Front().Edits().Edit(Pages().Top(), row);
+  else
+    screen_.Tell(Tone::Bad, why);
+  OnChanged();
+}
+
 void Browser::RunMethod(const Row& row) {
+  Session& session = FrontSession();
   if (!MayChange()) return;
+  if (session.IsOffline())
+    return screen_.Tell(Tone::Bad, session.Say()(texts::kMethodOffline, {row.view.label}));
   if (!row.view.valid) {
-    screen_.Tell(Tone::Bad, session_.Say()(hartframe::texts::kMethodNotValid, {row.view.label}));
+    screen_.Tell(Tone::Bad, session.Say()(hartframe::texts::kMethodNotValid, {row.view.label}));
     return;
   }
-  MethodWatch watch(session_.Components());
+  Messages& messages = Front().Talk();
+  MethodWatch watch(session.Components());
   bool isBroken = false;
-  session_.Errors().Forget();
-  messages_.Forget();
-  messages_.SetOnErrorCancelled([&watch] { watch.AbortAll(); });
+  session.Errors().Forget();
+  messages.Forget();
+  messages.SetOnErrorCancelled([&watch] { watch.AbortAll(); });
+  screen_.SetKeepsUp(true);
   const bool finished = WorkForUser(
       [&] {
-        ThoroughReader(session_).ReadConditions(row.item.definition);
-        pages_.Top().RunMethod(row.item);
+        ThoroughReader(session).ReadConditions(row.item.definition);
+        Pages().Top().RunMethod(row.item);
       },
       [&] {
         // What cleans up after it still has to reach the device, and the user.
         isBroken = true;
         watch.AbortAll();
-        session_.Components().CancelOperation();
+        session.Components().CancelOperation();
       });
-  messages_.SetOnErrorCancelled({});
+  screen_.SetKeepsUp(false);
+  messages.SetOnErrorCancelled({});
+  TellEnd(row, watch, finished, isBroken);
+}
+
+void Browser::TellEnd(const Row& row, const MethodWatch& watch, bool finished, bool isBroken) {
+  Session& session = FrontSession();
   if (watch.IsAborted()) {
-    TellAborted(row, CauseOfAbort(watch, session_.Errors(), isBroken || messages_.WasCancelled()));
+    const bool byUser = isBroken || Front().Talk().WasCancelled();
+    TellAborted(row, CauseOfAbort(watch, session.Errors(), byUser));
   } else if (finished && watch.HasStarted()) {
-    screen_.Tell(Tone::Good, session_.Say()(hartframe::texts::kMethodFinished, {row.view.label}));
+    screen_.Tell(Tone::Good, session.Say()(hartframe::texts::kMethodFinished, {row.view.label}));
   }
 }
 
 void Browser::TellAborted(const Row& row, AbortCause cause) {
-  const Speech& say = session_.Say();
+  Session& session = FrontSession();
+  const Speech& say = session.Say();
   const std::string& label = row.view.label;
   if (cause == AbortCause::Failure) {
     screen_.Tell(Tone::Bad, say(hartframe::texts::kMethodFailed,
-                                {label, OneLine(FailureText(session_.Errors()))}));
+                                {label, OneLine(FailureText(session.Errors()))}));
   } else {
     screen_.Tell(cause == AbortCause::User ? Tone::Pending : Tone::Bad,
                  say(hartframe::texts::kMethodAborted, {label, say(ReasonText(cause))}));
@@ -166,101 +200,25 @@ void Browser::TellAborted(const Row& row, AbortCause cause) {
 }
 
 void Browser::ClosePage() {
-  if (pages_.Depth() == 1) {
-    screen_.Tell(Tone::Plain, session_.Say()(texts::kQuitWithQ));
+  if (Pages().Depth() == 1) {
+    screen_.Tell(Tone::Plain, online_.Say()(texts::kQuitWithQ));
     return;
   }
   bool complete = true;
-  WorkForUser([&] { complete = pages_.Top().Close(); });
+  WorkForUser([&] { complete = Pages().Top().Close(); });
   if (!complete) {
-    const Speech& say = session_.Say();
+    const Speech& say = online_.Say();
     ChoiceDialog dialog(say,
                         {DialogStyle::Question, say(texts::kGroup), say(texts::kGroupQuestion), {}},
                         {say(texts::kStay), say(texts::kGiveUp)}, 0);
     if (!screen_.Run(dialog) || dialog.Selected() == 0) return;
-    WorkForUser([&] { pages_.Top().GiveUp(); });
+    WorkForUser([&] { Pages().Top().GiveUp(); });
   }
-  pages_.Pop();
+  Pages().Pop();
 }
 
 void Browser::Quit() {
-  const Speech& say = session_.Say();
-  if (actions_.Pending() > 0) {
-    const std::string file =
-        (session_.Kept() ? session_.Kept()->Path() : session_.Pending().Path()).string();
-    ChoiceDialog dialog(
-        say,
-        {DialogStyle::Question,
-         say(texts::kQuit),
-         say(texts::kQuitQuestion, {std::to_string(actions_.Pending())}),
-         {}},
-        {say(texts::kStay), say(texts::kWriteAndQuit),
-         file.empty() ? say(texts::kLoseAndQuit) : say(texts::kKeepAndQuit, {file})},
-        0);
-    if (!screen_.Run(dialog) || dialog.Selected() == 0) return;
-    if (dialog.Selected() == 1 && !(MayChange() && actions_.Write())) return;
-  }
-  isLeaving_ = true;
-}
-
-// --- other keys ---
-
-void Browser::ShowDetails() {
-  const Speech& say = session_.Say();
-  const Row* row = pages_.Selected();
-  std::string text = row ? DetailsOf(session_, *row) + "\n\n" : std::string();
-  text += say(texts::kAllKeys);
-  TextDialog dialog(say, {DialogStyle::Information, say(texts::kHelp), text, {}});
-  screen_.Run(dialog);
-}
-
-void Browser::ShowLog() {
-  const Speech& say = session_.Say();
-  std::size_t selected = 0;
-  while (true) {
-    const auto entries = screen_.Log().Entries();
-    std::vector<std::string> lines;
-    for (const LogEntry& entry : entries) lines.push_back(entry.line);
-    ChoiceDialog list(say,
-                      {DialogStyle::Information,
-                       say(texts::kMessages),
-                       lines.empty() ? say(texts::kNoMessages) : std::string(),
-                       {}},
-                      lines, selected);
-    if (!screen_.Run(list)) return;
-    selected = list.Selected();
-    TextDialog text(say, {DialogStyle::Information, say(texts::kMessages), entries[selected].text,
-                          entries[selected].help});
-    screen_.Run(text);
-  }
-}
-
-void Browser::ChooseLanguage() {
-  const Speech& say = session_.Say();
-  std::vector<std::string> entries;
-  std::size_t selected = 0;
-  for (const Language& language : kLanguages) {
-    if (language.code == say.Language()) selected = entries.size();
-    entries.push_back(language.name);
-  }
-  ChoiceDialog dialog(say, {DialogStyle::Question, say(texts::kLanguage), {}, {}}, entries,
-                      selected);
-  if (screen_.Run(dialog)) session_.SetLanguage(kLanguages[dialog.Selected()].code);
-}
-
-void Browser::ReadAgain() {
-  for (const Row& row : pages_.Visible()) {
-    if (row.view.variable && !row.view.variable->variable->ToBeWritten())
-      session_.Database().SetVariableAvailable(row.item.definition, false);
-  }
-}
-
-void Browser::GiveUpSelected() {
-  const Row* row = pages_.Selected();
-  if (!row || !row->view.variable || !row->view.variable->variable->ToBeWritten()) return;
-  GiveUpChange(session_, row->item.definition);
-  screen_.Tell(Tone::Plain, session_.Say()(texts::kGivenUp, {row->view.label}));
-  Changed();
+  isLeaving_ = actions_->Leave([this] { return MayChange(); });
 }
 
 }  // namespace hartframe::browse

@@ -1,8 +1,10 @@
 #include "hartframe/browse/Editing.h"
 
 #include "hartframe/Reading.h"
+#include "hartframe/WriteWatch.h"
 #include "hartframe/browse/BrowseTexts.h"
 #include "hartframe/browse/ValueEditor.h"
+#include "hartframe/dataset/PairTransfers.h"
 
 namespace hartframe::browse {
 
@@ -12,12 +14,16 @@ using ZAFHartTypes::ItemIndex;
 using ZAFHartTypes::Variable;
 using ZAFHartTypes::Variant;
 
+bool WritesAtOnce(Session& session) {
+  return dynamic_cast<ZAFHartTypes::IDataBaseExtension&>(session.Database()).SynchronousMode();
+}
+
 std::string WhyNotEditable(const Row& row, const std::string& why, const Speech& speech) {
   const Variable& variable = *row.view.variable->variable;
   if (!variable.Validity()) return speech(Text::NotValidNow, {row.view.label});
   if (!variable.CheckHandling(AccessMode::Write) || (row.item.readOnly && why.empty()))
     return speech(Text::NotWritable, {row.view.label});
-  return row.item.readOnly ? row.view.label + ": " + why : std::string();
+  return why.empty() ? std::string() : row.view.label + ": " + why;
 }
 
 void Editing::Edit(Page& page, const Row& row) {
@@ -34,16 +40,33 @@ void Editing::Edit(Page& page, const Row& row) {
   if (edited && edited->isChanged) TellOutcome(row);
 }
 
+// Limits and unit are to be the device's; offline there is none to ask.
 bool Editing::Enter(Page& page, Field& field) {
   return screen_.Work([&] {
-    // So that limits and unit are the device's.
-    ThoroughReader(session_).Read(field->Definition());
+    if (!session_.IsOffline()) ThoroughReader(session_).Read(field->Definition());
     page.Enter(field);
   });
 }
 
 void Editing::Leave(Page& page, Field& field) {
-  screen_.Work([&] { page.Leave(field); });
+  screen_.Work([&] {
+    if (session_.IsOffline())
+      KeepConverted(session_, field->Definition(), [&] { page.Leave(field); });
+    else if (WritesAtOnce(session_) && !value_.IsNull())
+      LeaveAndWrite(page, field);
+    else
+      page.Leave(field);
+  });
+}
+
+// What no device answers to stays to be written.
+void Editing::LeaveAndWrite(Page& page, Field& field) {
+  const Definition definition = field->Definition();
+  WriteWatch watch(session_, PendingVariables(session_));
+  watch.Expect(definition, value_);
+  const bool finished = session_.Run([&] { page.Leave(field); });
+  if (refusal_.empty()) watch.RestoreUnanswered(watch.Results());
+  if (!finished) session_.Database().SetVariableToBeWritten(definition, true);
 }
 
 void Editing::TellOutcome(const Row& row) {
@@ -53,6 +76,8 @@ void Editing::TellOutcome(const Row& row) {
     screen_.Tell(Tone::Bad, session_.Say()(texts::kRefused, {row.view.label, refusal_, value}));
   } else if (variable->ToBeWritten()) {
     screen_.Tell(Tone::Pending, session_.Say()(texts::kWillBeWritten, {row.view.label, value}));
+  } else if (WritesAtOnce(session_) && TroubleOf(*variable) == Trouble::None) {
+    screen_.Tell(Tone::Good, session_.Say()(texts::kWrittenAtOnce, {row.view.label, value}));
   }
 }
 

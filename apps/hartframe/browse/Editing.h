@@ -25,6 +25,8 @@ class Editing {
   using Field = std::shared_ptr<ZAFHartTypes::Variable>;
   bool Enter(Page& page, Field& field);
   void Leave(Page& page, Field& field);
+  // In synchronous mode, where leaving writes to the device.
+  void LeaveAndWrite(Page& page, Field& field);
   void TellOutcome(const Row& row);
 
   Session& session_;
@@ -34,6 +36,8 @@ class Editing {
   std::string refusal_;
 };
 
+// Changes of the session's device are written at once.
+bool WritesAtOnce(Session& session);
 // Why the row's variable cannot be edited; "" when it can. `why`: why nothing can be changed.
 std::string WhyNotEditable(const Row& row, const std::string& why, const Speech& speech);
 

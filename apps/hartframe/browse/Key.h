@@ -15,6 +15,7 @@ enum class KeyCode {
   Home,
   End,
   Backspace,
+  Tab,
   Delete,
   Help,    // F1
   Resize,  // the terminal has another size

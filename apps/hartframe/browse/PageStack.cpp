@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "hartframe/browse/RowTable.h"
 #include "hartframe/browse/TextLayout.h"
 #include "types/Utf8.h"
 
@@ -25,7 +26,7 @@ void PageStack::Refresh() {
   labels_.clear();
   for (const Entry& entry : pages_) labels_.push_back(session_.Say().Pick(entry.page->Label()));
   std::vector<Row> rows;
-  for (const PageItem& item : Top().Items()) rows.push_back(MakeRow(session_, Top(), item));
+  for (const PageItem& item : Top().Items()) rows.push_back(MakeRow(session_, pair_, Top(), item));
   rows_ = std::move(rows);
   pages_.back().list.Fit(rows_.size(), height_);
 }
@@ -53,13 +54,16 @@ std::string PageStack::Path(std::size_t width) const {
 }
 
 void PageStack::Draw(Picture& picture, std::size_t height) {
+  const auto width = static_cast<std::size_t>(picture.size.columns);
+  Table table = TableOf(rows_, pair_ != nullptr, width, session_.Say());
+  if (!table.head.empty()) --height;
   height_ = height;
   ListState& list = pages_.back().list;
   list.Fit(rows_.size(), height);
-  const auto width = static_cast<std::size_t>(picture.size.columns);
   const std::size_t note = ZAFHartTypes::utf8::Length(picture.pathNote);
   picture.path = Path(width - std::min(width, note == 0 ? 0 : note + 3));
-  picture.items.lines = LinesOf(rows_, width, session_.Say());
+  picture.head = std::move(table.head);
+  picture.items.lines = std::move(table.lines);
   picture.items.selected = list.Selected();
   picture.items.top = list.Top();
   picture.items.height = height;

@@ -11,7 +11,8 @@ namespace hartframe::browse {
 // The pages from the start to the one on the screen, and the rows of that one.
 class PageStack {
  public:
-  explicit PageStack(Session& session) : session_(session) {}
+  // `pair`: what the session is a side of, or nullptr.
+  PageStack(Session& session, DataSetPair* pair) : session_(session), pair_(pair) {}
 
   void Push(std::unique_ptr<Page> page);
   void Pop();
@@ -40,6 +41,7 @@ class PageStack {
   std::string Path(std::size_t width) const;
 
   Session& session_;
+  DataSetPair* const pair_;
   std::vector<Entry> pages_;
   std::vector<Row> rows_;
   std::vector<std::string> labels_;

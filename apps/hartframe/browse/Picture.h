@@ -15,7 +15,7 @@ struct Size {
 inline constexpr Size kSmallest{24, 80};
 
 // What a text is about; a terminal has a colour for each.
-enum class Tone { Plain, Faint, Good, Pending, Bad };
+enum class Tone { Plain, Faint, Good, Pending, Different, Bad };
 
 struct Line {
   std::string text;
@@ -57,6 +57,7 @@ struct Picture {
   Size size;
   std::string path;
   std::string pathNote;  // at the right: why nothing can be changed
+  std::string head;      // above the items: what their columns are; "" without a line of its own
   ListPicture items;
   std::string message;
   Tone messageTone = Tone::Plain;

@@ -1,13 +1,11 @@
 #include "hartframe/browse/Row.h"
 
-#include <algorithm>
-
 #include "ddobjects/Method.h"
 #include "hartframe/MenuPath.h"
 #include "hartframe/ValueText.h"
-#include "hartframe/browse/BrowseTexts.h"
+#include "hartframe/browse/RowTable.h"
 #include "hartframe/browse/TextLayout.h"
-#include "types/Utf8.h"
+#include "hartframe/dataset/DataSetTexts.h"
 
 namespace hartframe::browse {
 
@@ -16,7 +14,6 @@ namespace {
 using ZAFHartTypes::AccessMode;
 using ZAFHartTypes::Definition;
 using ZAFHartTypes::ObjectKind;
-namespace utf8 = ZAFHartTypes::utf8;
 
 // A live value stays on the screen while the next one is under way.
 VariableRow VariableRowOf(Session& session, const Definition& definition) {
@@ -44,91 +41,42 @@ std::string LabelOf(Session& session, const Definition& definition) {
   return object ? session.Say().Pick(MultilingualLabel(*object)) : definition.Name();
 }
 
-std::string MarkOf(const Row& row) {
-  if (row.checked) return *row.checked ? "[x]" : "[ ]";
-  switch (row.view.kind) {
-    case ObjectKind::Menu:
-      return " > ";
-    case ObjectKind::EditDisplay:
-    case ObjectKind::WriteAsOne:
-      return " = ";
-    case ObjectKind::Method:
-      return " * ";
-    default:
-      return "   ";
-  }
-}
-
-Tone ToneOf(const Row& row) {
-  if (!row.view.variable) return row.view.valid ? Tone::Plain : Tone::Faint;
-  const auto& variable = *row.view.variable->variable;
-  if (!variable.Validity()) return Tone::Faint;
-  if (!row.view.variable->error.empty()) return Tone::Bad;
-  if (variable.ToBeWritten()) return Tone::Pending;
-  if (!variable.Available() && !variable.Attributes().IsLibraryHeld()) return Tone::Faint;
-  return variable.Attributes().IsDynamic() ? Tone::Good : Tone::Plain;
-}
-
-std::string StateOf(const Row& row, const Speech& speech) {
-  const std::string kind = KindText(row.view.kind, speech);
-  return Joined({kind, StateText(row.view, speech)}, ", ");
-}
-
-struct Widths {
-  std::size_t label = 0;
-  std::size_t value = 0;
-  std::size_t unit = 0;
-  std::size_t state = 0;
-};
-
-constexpr std::size_t kMark = 3;
-constexpr std::size_t kGaps = 4;  // one blank before each column
-
-Widths WidthsOf(const std::vector<Row>& rows, std::size_t width) {
-  Widths widths;
-  for (const Row& row : rows) {
-    widths.label = std::max(widths.label, utf8::Length(row.view.label));
-    if (!row.view.variable) continue;
-    widths.value = std::max(widths.value, utf8::Length(row.view.variable->value));
-    widths.unit = std::max(widths.unit, utf8::Length(row.view.variable->unit));
-  }
-  const std::size_t room = width - std::min(width, kMark + kGaps);
-  widths.unit = std::min<std::size_t>(widths.unit, 8);
-  widths.label = std::min(widths.label, room * 2 / 5);
-  widths.value = std::min(widths.value, room * 3 / 10);
-  widths.state = room - widths.label - widths.value - widths.unit;
-  return widths;
-}
-
 }  // namespace
 
-Row MakeRow(Session& session, const Page& page, const PageItem& item) {
+bool IsCompared(const DataSetPair& pair, const ZAFHartTypes::Variable& variable) {
+  const auto attributes = variable.Attributes();
+  if (attributes.IsLibraryHeld()) return pair.IsShared(variable.Definition());
+  return !attributes.IsDynamic();
+}
+
+// What the library holds is there without being read.
+ComparedRow CompareNow(DataSetPair& pair, const Definition& variable) {
+  VariableRow offline = pair.Offline().Row(variable);
+  VariableRow online = VariableRowOf(pair.Online(), variable);
+  for (const VariableRow* row : {&offline, &online}) {
+    if (row->variable->Attributes().IsLibraryHeld()) row->variable->SetAvailable(true);
+  }
+  return CompareUnderWay(std::move(offline), std::move(online));
+}
+
+Row MakeRow(Session& session, DataSetPair* pair, const Page& page, const PageItem& item) {
   const Definition& definition = item.definition;
-  Row row{item, {definition.Kind(), definition.Name(), {}, item.readOnly, true, {}, {}}, {}};
+  Row row{item, {definition.Kind(), definition.Name(), {}, item.readOnly, true, {}, {}}, {}, {}};
   row.view.label = LabelOf(session, definition);
   if (definition.Kind() == ObjectKind::Variable) {
-    row.view.variable = VariableRowOf(session, definition);
+    if (pair) {
+      row.sides = CompareNow(*pair, definition);
+      row.isCompared = IsCompared(*pair, *row.sides->online.variable);
+      row.view.variable = session.IsOffline() ? row.sides->offline : row.sides->online;
+    } else {
+      row.view.variable = VariableRowOf(session, definition);
+    }
     row.view.valid = row.view.variable->variable->Validity();
     if (page.MarksChecked()) row.checked = row.view.variable->variable->IsChecked();
   } else if (definition.Kind() == ObjectKind::Method) {
     row.view.valid = session.Kernel().GetMethodValidity(definition);
   }
   return row;
-}
-
-std::vector<Line> LinesOf(const std::vector<Row>& rows, std::size_t width, const Speech& speech) {
-  const Widths widths = WidthsOf(rows, width);
-  std::vector<Line> lines;
-  for (const Row& row : rows) {
-    const auto& variable = row.view.variable;
-    std::string text = MarkOf(row);
-    text += ' ' + Fitted(row.view.label, widths.label);
-    text += ' ' + Fitted(variable ? variable->value : "", widths.value);
-    text += ' ' + Fitted(variable ? variable->unit : "", widths.unit);
-    text += ' ' + Fitted(StateOf(row, speech), widths.state);
-    lines.push_back({std::move(text), ToneOf(row)});
-  }
-  return lines;
 }
 
 std::string DetailsOf(Session& session, const Row& row) {
@@ -143,6 +91,11 @@ std::string DetailsOf(Session& session, const Row& row) {
     help = variable.Help();
   }
   const std::string state = StateOf(row, say);
+  if (row.sides) {
+    parts.push_back(say(hartframe::texts::kDataSetTitle) + ": " +
+                    ValueWithUnit(row.sides->offline));
+    parts.push_back(say(Text::InfoDevice) + ": " + ValueWithUnit(row.sides->online));
+  }
   if (!state.empty()) parts.push_back(say(Text::ColumnState) + ": " + state);
   if (row.view.kind == ObjectKind::Method)
     help = session.Kernel().GetMethod(row.item.definition)->Help();

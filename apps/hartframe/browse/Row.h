@@ -5,6 +5,7 @@
 #include "hartframe/MenuView.h"
 #include "hartframe/browse/Page.h"
 #include "hartframe/browse/Picture.h"
+#include "hartframe/dataset/DataSetPair.h"
 
 namespace hartframe::browse {
 
@@ -13,12 +14,17 @@ struct Row {
   PageItem item;
   MenuRow view;
   std::optional<bool> checked;  // of a group's member
+  // A variable of a pair: both sides, and whether they are worth comparing.
+  std::optional<ComparedRow> sides;
+  bool isCompared = false;
 };
 
-Row MakeRow(Session& session, const Page& page, const PageItem& item);
-
-// The rows in columns, each line `width` wide: mark, label, value, unit, state.
-std::vector<Line> LinesOf(const std::vector<Row>& rows, std::size_t width, const Speech& speech);
+// `pair`: what the session is a side of, or nullptr.
+Row MakeRow(Session& session, DataSetPair* pair, const Page& page, const PageItem& item);
+// Both sides have a value of the variable, which is not live, nor the library's for one side only.
+bool IsCompared(const DataSetPair& pair, const ZAFHartTypes::Variable& variable);
+// A variable of a pair as both sides hold it now.
+ComparedRow CompareNow(DataSetPair& pair, const ZAFHartTypes::Definition& variable);
 
 // All about the item: value, state, what is allowed, the DD's help.
 std::string DetailsOf(Session& session, const Row& row);

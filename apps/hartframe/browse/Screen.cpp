@@ -112,10 +112,15 @@ void Screen::DropTypedAhead() {
   terminal_.Beep();
 }
 
+bool Screen::MayIdle() const {
+  if (!base_ || isIdling_ || base_->IsLocked()) return false;
+  return !IsWorking() || (keepsUp_ && IsAsking());
+}
+
 void Screen::OnIdle() {
   if (IsWorking() && terminal_.IsGone() && !std::exchange(isEnding_, true))
     session_.Signals().Interrupt();
-  if (!IsBusy() && base_) {
+  if (MayIdle()) {
     const Restored<bool> idling(isIdling_, true);
     Guarded([this] { base_->OnIdle(); });
   }

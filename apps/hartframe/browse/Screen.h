@@ -59,6 +59,9 @@ class Screen : public ConsoleScreen {
   // The same, with something else done when the user ends it than to cancel what waits for the
   // device. The operation goes on after that.
   bool Work(const std::function<void()>& operation, const std::function<void()>& onBreak);
+  // While an operation's dialogs wait for the user, the base is brought up to date behind them, or
+  // not.
+  void SetKeepsUp(bool keepsUp) { keepsUp_ = keepsUp; }
   // Ctrl-C has come while nothing was under way; tells it once.
   bool TakeBreak() { return std::exchange(wantsBreak_, false); }
   // A dialog waits for its keys.
@@ -86,6 +89,7 @@ class Screen : public ConsoleScreen {
   // Gives the dialog the keys until it is done, or it is enough.
   void Attend(Dialog& dialog, const std::function<bool()>& isEnough);
   void OnBreak();
+  bool MayIdle() const;
   bool IsBusy() const { return IsWorking() || isIdling_ || (base_ && base_->IsLocked()); }
   void OnBusyKey(const Key& key);
   void DropTypedAhead();
@@ -106,6 +110,7 @@ class Screen : public ConsoleScreen {
   std::function<void()> onBreak_;
   bool wantsBreak_ = false;
   bool isIdling_ = false;
+  bool keepsUp_ = false;
   bool isEnding_ = false;  // what was under way was told that the terminal is gone
   bool isStale_ = true;
   platform::Milliseconds lastDrawn_{};

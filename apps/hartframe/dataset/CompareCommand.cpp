@@ -38,16 +38,8 @@ ReadDevice Read(Session& online) {
   return read;
 }
 
-std::string Count(const std::vector<ComparedRow>& rows, Match match) {
-  return std::to_string(std::count_if(
-      rows.begin(), rows.end(), [match](const ComparedRow& row) { return row.match == match; }));
-}
-
 ExitCode TellComparison(Session& online, std::vector<ComparedRow> rows) {
-  const std::string sentence = online.Say()(
-      texts::kCompared,
-      {Count(rows, Match::Equal), Count(rows, Match::Differs), Count(rows, Match::OnlyOffline),
-       Count(rows, Match::OnlyOnline), Count(rows, Match::NotValid)});
+  const std::string sentence = SummaryOf(rows, online.Say());
   const bool different = std::any_of(
       rows.begin(), rows.end(), [](const ComparedRow& row) { return IsDifference(row.match); });
   if (online.Settings().differencesOnly)

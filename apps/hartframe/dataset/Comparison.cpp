@@ -1,5 +1,7 @@
 #include "hartframe/dataset/Comparison.h"
 
+#include <algorithm>
+
 #include "hartframe/WriteWatch.h"
 #include "hartframe/dataset/PairTexts.h"
 
@@ -21,7 +23,8 @@ constexpr MatchWords kWords[] = {{"=", "equal", texts::kEqual},
                                  {"<", "onlyOffline", texts::kOnlyOffline},
                                  {">", "onlyOnline", texts::kOnlyOnline},
                                  {"-", "notValid", texts::kNotValid},
-                                 {"?", "noValue", texts::kNoValueYet}};
+                                 {"?", "noValue", texts::kNoValueYet},
+                                 {"?", "notRead", texts::kDeviceNotRead}};
 
 const MatchWords& WordsOf(Match match) {
   return kWords[static_cast<std::size_t>(match)];
@@ -45,11 +48,27 @@ Match MatchOf(const VariableRow& offline, const VariableRow& online) {
   return same ? Match::Equal : Match::Differs;
 }
 
+// As opposed to a value that the device could not be asked for, or has refused.
+bool IsUnread(const Variable& variable) {
+  return variable.Validity() && !variable.Available() && !variable.ToBeWritten() &&
+         variable.ErrorIndex() == 0 && variable.CheckHandling(ZAFHartTypes::AccessMode::Read);
+}
+
+std::string Count(const std::vector<ComparedRow>& rows, Match match) {
+  return std::to_string(
+      std::ranges::count_if(rows, [match](const ComparedRow& row) { return row.match == match; }));
+}
+
 }  // namespace
 
 ComparedRow Compare(VariableRow offline, VariableRow online) {
   const Match match = MatchOf(offline, online);
   return {std::move(offline), std::move(online), match};
+}
+
+ComparedRow CompareUnderWay(VariableRow offline, VariableRow online) {
+  if (IsUnread(*online.variable)) return {std::move(offline), std::move(online), Match::NotRead};
+  return Compare(std::move(offline), std::move(online));
 }
 
 bool IsDifference(Match match) {
@@ -69,6 +88,12 @@ std::string StateText(const ComparedRow& row, const Speech& speech) {
   if (row.offline.variable->ToBeWritten()) text += ", " + speech(Text::StateToBeWritten);
   if (!row.online.error.empty()) text += ", " + row.online.error;
   return text;
+}
+
+std::string SummaryOf(const std::vector<ComparedRow>& rows, const Speech& speech) {
+  return speech(texts::kCompared, {Count(rows, Match::Equal), Count(rows, Match::Differs),
+                                   Count(rows, Match::OnlyOffline), Count(rows, Match::OnlyOnline),
+                                   Count(rows, Match::NotValid)});
 }
 
 }  // namespace hartframe

@@ -208,7 +208,7 @@ void KeptDataSet::RequireSameDevice(Session& online) {
   const auto manufacturer = AskDevice(online, kManufacturer);
   const auto deviceType = AskDevice(online, kDeviceType);
   if (!Differ(own.manufacturer, manufacturer) && !Differ(own.deviceType, deviceType)) return;
-  isAbandoned_ = true;
+  Abandon();
   throw CommandFailure(
       ExitCode::NotAllowed,
       session_.Say()(
@@ -217,14 +217,16 @@ void KeptDataSet::RequireSameDevice(Session& online) {
            NumberOrQuestion(manufacturer), NumberOrQuestion(deviceType)}));
 }
 
+bool KeptDataSet::SaysTheSame(const StoredDataSet& dataSet) const {
+  return loaded_ && std::equal(dataSet.variables.begin(), dataSet.variables.end(),
+                               loaded_->variables.begin(), loaded_->variables.end(),
+                               [](const auto& a, const auto& b) { return IsSame(a, b); });
+}
+
 void KeptDataSet::Keep() {
   if (isAbandoned_) return;
   StoredDataSet current = Current();
-  const bool isSame =
-      loaded_ && std::equal(current.variables.begin(), current.variables.end(),
-                            loaded_->variables.begin(), loaded_->variables.end(),
-                            [](const auto& a, const auto& b) { return IsSame(a, b); });
-  if (isSame) return;
+  if (SaysTheSame(current)) return;
   file_.Save(current);
   loaded_ = std::move(current);
 }

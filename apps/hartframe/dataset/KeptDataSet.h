@@ -29,8 +29,13 @@ class KeptDataSet {
   // The values of the device type in the file go with no other than the one connected to `online`:
   // CommandFailure (NotAllowed), and the file stays as it is. A device that does not answer passes.
   void RequireSameDevice(Session& online);
+  // The file does not say the same; there may be none.
+  bool HasChanged() { return !SaysTheSame(Current()); }
   // Writes the file when something has changed. CommandFailure (FileBroken).
   void Keep();
+  // The file stays as it is from now on.
+  void Abandon() { isAbandoned_ = true; }
+  bool IsAbandoned() const { return isAbandoned_; }
   // After values were put into the data set with those of their units: a change of a unit from now
   // on converts from these.
   void SettleUnits();
@@ -50,6 +55,7 @@ class KeptDataSet {
   void RefuseType(const StoredVariable& stored, const ZAFHartTypes::Variable& variable) const;
 
   StoredDataSet Current();
+  bool SaysTheSame(const StoredDataSet& dataSet) const;
   bool IsAvailable(const ZAFHartTypes::Variable& variable) const;
   // Of the identity that a variable tells; nothing while it is not known.
   std::optional<std::int32_t> Known(std::string_view name) const;

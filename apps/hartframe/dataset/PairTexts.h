@@ -16,6 +16,9 @@ inline constexpr const char* kNotValid =
     "not valid|de|nicht gültig|fr|non valide|it|non valido|es|no válido|kt|mukou";
 inline constexpr const char* kNoValueYet =
     "no value|de|kein Wert|fr|sans valeur|it|senza valore|es|sin valor|kt|atai nashi";
+inline constexpr const char* kDeviceNotRead =
+    "device not read yet|de|Gerät noch nicht gelesen|fr|appareil pas encore lu|it|dispositivo non "
+    "ancora letto|es|dispositivo aún no leído|kt|kiki wa mada yomarete imasen";
 inline constexpr const char* kCompared =
     "{0} equal, {1} different, {2} only in the data set, {3} only in the device, {4} not valid.|de|"
     "{0} gleich, {1} verschieden, {2} nur im Datensatz, {3} nur im Gerät, {4} nicht gültig.|fr|{0} "

@@ -62,9 +62,7 @@ ExitCode RunKeeping(KeptDataSet& dataSet, Report& report,
 
 ExitCode RunOnDataSet(Session& session, ExitCode (*command)(Session&)) {
   const Options& options = session.Settings();
-  const bool opensItself =
-      options.command == CommandKind::Pair || options.command == CommandKind::Compare;
-  if (options.dataSetFile.empty() || opensItself) return command(session);
+  if (options.dataSetFile.empty() || OpensPair(options)) return command(session);
   const Usage usage = UsageOf(options);
   Open(session, usage);
   if (usage.onlyLooks) return command(session);

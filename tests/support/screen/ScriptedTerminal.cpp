@@ -32,6 +32,7 @@ void Append(const DialogPicture& dialog, std::string& text) {
 
 std::string ScriptedTerminal::Text() const {
   std::string text = picture_.tooSmall + picture_.path + "  " + picture_.pathNote + "\n";
+  text += picture_.head + "\n";
   Append(picture_.items, text);
   if (picture_.percent >= 0) text += picture_.progress + "\n";
   text += picture_.message + "\n" + picture_.status + "\n" + picture_.keys + "\n";

@@ -42,6 +42,7 @@ class ScriptedTerminal : public hartframe::browse::Terminal, public platform::Ho
   void SetSize(hartframe::browse::Size size) { size_ = size; }
   // What was drawn last, in lines.
   std::string Text() const;
+  const hartframe::browse::Picture& Shown() const { return picture_; }
 
   hartframe::browse::Size GetSize() const override { return size_; }
   void Show(const hartframe::browse::Picture& picture) override { picture_ = picture; }

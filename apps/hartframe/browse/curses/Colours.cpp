@@ -28,6 +28,8 @@ Look LookOf(Tone tone) {
       return {A_NORMAL, kGreen};
     case Tone::Pending:
       return {A_BOLD, kYellow};
+    case Tone::Different:
+      return {A_BOLD, kMagenta};
     case Tone::Bad:
       return {A_BOLD, kRed};
     default:

@@ -38,6 +38,7 @@ void DrawFrame(const Picture& picture) {
   const int columns = picture.size.columns;
   const Look bar{A_REVERSE, 0};
   Print(0, PathLine(picture), {A_REVERSE | A_BOLD, 0}, columns);
+  if (!picture.head.empty()) Print(1, picture.head, {A_UNDERLINE, 0}, columns);
   mvwhline(stdscr, rows - 4, 0, 0, columns);
   if (picture.percent >= 0)
     DrawProgress(picture, rows - 3);
@@ -61,7 +62,8 @@ void DrawPicture(const Picture& picture) {
     return;
   }
   DrawFrame(picture);
-  const CursesList items(stdscr, 1, 0, picture.size.columns, picture.items);
+  const int firstRow = picture.head.empty() ? 1 : 2;
+  const CursesList items(stdscr, firstRow, 0, picture.size.columns, picture.items);
   std::vector<std::unique_ptr<CursesDialog>> dialogs;
   for (const DialogPicture& dialog : picture.dialogs)
     dialogs.push_back(std::make_unique<CursesDialog>(dialog, picture.size));

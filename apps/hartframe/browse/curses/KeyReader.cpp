@@ -23,7 +23,7 @@ constexpr NamedKey kFunctionKeys[] = {
 
 constexpr NamedKey kControlKeys[] = {
     {'\r', KeyCode::Enter},  {'\n', KeyCode::Enter},    {27, KeyCode::Escape},
-    {8, KeyCode::Backspace}, {127, KeyCode::Backspace},
+    {8, KeyCode::Backspace}, {127, KeyCode::Backspace}, {'\t', KeyCode::Tab},
 };
 
 template <std::size_t N>
