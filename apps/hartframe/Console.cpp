@@ -83,6 +83,11 @@ void Console::Error(std::string_view line) {
   Print(stderr, std::string(line) + '\n');
 }
 
+void Console::Trace(std::string_view line) {
+  if (!screen_) EraseBar();
+  Print(stderr, std::string(line) + '\n');
+}
+
 void Console::Table(const std::vector<std::string>& headings,
                     const std::vector<std::vector<std::string>>& rows) {
   std::vector<std::size_t> widths;

@@ -33,6 +33,8 @@ class Console {
 
   void Out(std::string_view line);
   void Error(std::string_view line);
+  // A line of a trace: to standard error also while a screen has the terminal.
+  void Trace(std::string_view line);
   // Prints a table with its headings; the last column is as wide as it is.
   void Table(const std::vector<std::string>& headings,
              const std::vector<std::vector<std::string>>& rows);

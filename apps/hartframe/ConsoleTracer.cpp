@@ -59,7 +59,7 @@ void ConsoleTracer::Print(std::int32_t depth, std::string_view text) {
     const auto end = text.find('\n');
     std::string_view line = text.substr(0, end);
     if (line.ends_with('\r')) line.remove_suffix(1);
-    if (!line.empty()) console_.Error(indent + OneLine(InLanguage(line, language_)));
+    if (!line.empty()) console_.Trace(indent + OneLine(InLanguage(line, language_)));
     if (end == std::string_view::npos) return;
     text.remove_prefix(end + 1);
   }

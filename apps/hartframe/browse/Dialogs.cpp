@@ -29,6 +29,7 @@ ChoiceDialog::ChoiceDialog(const Speech& speech, DialogHead head, std::vector<st
                            std::size_t selected)
     : Dialog(speech, std::move(head)), entries_(std::move(entries)) {
   state_.Select(selected);
+  state_.Fit(entries_.size(), entries_.size());
 }
 
 std::size_t ChoiceDialog::BodyWidth() const {

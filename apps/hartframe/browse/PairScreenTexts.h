@@ -29,9 +29,8 @@ inline constexpr const char* kComparison =
 inline constexpr const char* kDifferences =
     "Differences|de|Unterschiede|fr|Différences|it|Differenze|es|Diferencias|kt|Chigai";
 inline constexpr const char* kWaitsOnline =
-    "device's side to be written|de|Geräteseite zu schreiben|fr|côté de l'appareil à "
-    "écrire|it|lato "
-    "del dispositivo da scrivere|es|lado del dispositivo por escribir|kt|kiki no gawa mi-kakikomi";
+    "waits online|de|wartet online|fr|attend en ligne|it|attende online|es|espera en línea|kt|"
+    "onrain de taiki";
 inline constexpr const char* kMethodOffline =
     "{0} needs the device: Tab changes to its side.|de|{0} braucht das Gerät: Tab wechselt auf "
     "dessen Seite.|fr|{0} a besoin de l'appareil : Tab passe à son côté.|it|{0} ha bisogno del "

@@ -47,19 +47,18 @@ Tone ToneOf(const Row& row) {
   return variable.Attributes().IsDynamic() ? Tone::Good : Tone::Plain;
 }
 
-// That both are equal the sign says well enough.
+// Whether both are equal the sign says well enough.
 std::string ComparedState(const Row& row, const Speech& speech) {
-  std::vector<std::string> parts;
   const ComparedRow& sides = *row.sides;
-  if (sides.match == Match::Equal) {
-    if (sides.offline.variable->ToBeWritten()) parts.push_back(speech(Text::StateToBeWritten));
-  } else {
-    parts.push_back(StateText(sides, speech));
-  }
-  if (sides.online.variable->ToBeWritten()) parts.push_back(speech(texts::kWaitsOnline));
-  if (!row.view.variable->variable->CheckHandling(AccessMode::Write))
-    parts.push_back(speech(Text::StateReadOnly));
-  return Joined(parts, ", ");
+  const bool isSaid = sides.match == Match::Equal || sides.match == Match::Differs;
+  return Joined(
+      {isSaid ? std::string() : MatchText(sides.match, speech),
+       sides.online.variable->ToBeWritten() ? speech(texts::kWaitsOnline) : std::string(),
+       sides.offline.variable->ToBeWritten() ? speech(Text::StateToBeWritten) : std::string(),
+       sides.online.error,
+       row.view.variable->variable->CheckHandling(AccessMode::Write) ? std::string()
+                                                                     : speech(Text::StateReadOnly)},
+      ", ");
 }
 
 // --- columns ---
@@ -90,7 +89,8 @@ struct Widths {
   std::size_t state = 0;
 };
 
-// `room`: without what stands before the label.
+// `room`: without what stands before the label. The columns of a pair are cut when not all has
+// room.
 Widths WidthsOf(const std::vector<Cells>& table, bool isPair, std::size_t room) {
   constexpr std::size_t kGaps = 4;  // one blank before each column
   constexpr std::size_t kUnit = 8;
@@ -99,11 +99,19 @@ Widths WidthsOf(const std::vector<Cells>& table, bool isPair, std::size_t room) 
     widths.label = std::max(widths.label, utf8::Length(cells[0]));
     widths.second = std::max(widths.second, utf8::Length(cells[1]));
     widths.third = std::max(widths.third, utf8::Length(cells[2]));
+    widths.state = std::max(widths.state, utf8::Length(cells[3]));
   }
   room -= std::min(room, kGaps);
-  widths.label = std::min(widths.label, room * (isPair ? 7 : 8) / 20);
-  widths.second = std::min(widths.second, room * (isPair ? 5 : 6) / 20);
-  widths.third = std::min(widths.third, isPair ? room / 4 : kUnit);
+  const bool hasRoom = widths.label + widths.second + widths.third + widths.state <= room;
+  if (!isPair) {
+    widths.label = std::min(widths.label, room * 8 / 20);
+    widths.second = std::min(widths.second, room * 6 / 20);
+    widths.third = std::min(widths.third, kUnit);
+  } else if (!hasRoom) {
+    widths.label = std::min(widths.label, room * 6 / 20);
+    widths.second = std::min(widths.second, room * 4 / 20);
+    widths.third = std::min(widths.third, room * 4 / 20);
+  }
   widths.state = room - widths.label - widths.second - widths.third;
   return widths;
 }

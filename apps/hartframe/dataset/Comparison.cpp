@@ -48,10 +48,11 @@ Match MatchOf(const VariableRow& offline, const VariableRow& online) {
   return same ? Match::Equal : Match::Differs;
 }
 
-// As opposed to a value that the device could not be asked for, or has refused.
+// As opposed to a value that the device cannot be asked for, or has refused.
 bool IsUnread(const Variable& variable) {
   return variable.Validity() && !variable.Available() && !variable.ToBeWritten() &&
-         variable.ErrorIndex() == 0 && variable.CheckHandling(ZAFHartTypes::AccessMode::Read);
+         variable.CheckHandling(ZAFHartTypes::AccessMode::Read) &&
+         (variable.ErrorIndex() == 0 || TroubleOf(variable) == Trouble::Communication);
 }
 
 std::string Count(const std::vector<ComparedRow>& rows, Match match) {
@@ -83,8 +84,12 @@ std::string_view NameOf(Match match) {
   return WordsOf(match).name;
 }
 
+std::string MatchText(Match match, const Speech& speech) {
+  return speech(WordsOf(match).text);
+}
+
 std::string StateText(const ComparedRow& row, const Speech& speech) {
-  std::string text = speech(WordsOf(row.match).text);
+  std::string text = MatchText(row.match, speech);
   if (row.offline.variable->ToBeWritten()) text += ", " + speech(Text::StateToBeWritten);
   if (!row.online.error.empty()) text += ", " + row.online.error;
   return text;

@@ -26,6 +26,7 @@ bool IsDifference(Match match);
 
 std::string_view SignOf(Match match);  // "=", "≠", …
 std::string_view NameOf(Match match);  // for machines: "equal", "differs", …
+std::string MatchText(Match match, const Speech& speech);
 // The match in words, and what is to be written or went wrong.
 std::string StateText(const ComparedRow& row, const Speech& speech);
 // How many of the rows match how, in a sentence.
