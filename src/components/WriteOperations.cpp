@@ -20,13 +20,13 @@ bool EndsPass(std::int32_t result) {
 void WriteChangesOperation::Run() {
   OnFailure restore([this] { EndProgress(); });
   if (ProgressTitle().empty()) SetProgressTitle(ResText(idWriteChanges));
-  const DefinitionList variables = OwnDatabase()->Marked(VariableMark::ToBeWritten);
+  const MarkedVariables pending = OwnDatabase()->WatchMarked(VariableMark::ToBeWritten);
   {
     Gui()->StopCurrentEditing();
     CLockObject lock;
     lock.SetLock(Gui());
     const auto valuesKeep = OwnDatabase()->SuspendExpiry();
-    WriteInPasses(variables);
+    WriteInPasses(pending);
     MarkSynchronized();
   }
   EndProgress();
@@ -35,12 +35,11 @@ void WriteChangesOperation::Run() {
 
 // A variable waits while one that it depends on is still to be written. Circles of dependencies
 // end with the third pass that defers the same number.
-void WriteChangesOperation::WriteInPasses(const DefinitionList& variables) const {
-  const auto pending = OwnDatabase()->CountMarked(VariableMark::ToBeWritten, variables);
+void WriteChangesOperation::WriteInPasses(const MarkedVariables& pending) const {
   std::size_t beforeLast = 0;
   std::size_t last = 0;
   while (true) {
-    const Pass pass = RunPass(variables, *pending);
+    const Pass pass = RunPass(pending);
     const bool stuck = pass.deferred == last && pass.deferred == beforeLast;
     if (stuck || !pass.wroteSomething) return;
     beforeLast = last;
@@ -48,10 +47,10 @@ void WriteChangesOperation::WriteInPasses(const DefinitionList& variables) const
   }
 }
 
-WriteChangesOperation::Pass WriteChangesOperation::RunPass(const DefinitionList& variables,
-                                                           const StateCounter& pending) const {
+WriteChangesOperation::Pass WriteChangesOperation::RunPass(const MarkedVariables& pending) const {
   Pass pass;
-  for (const Definition& definition : variables) {
+  const std::size_t all = pending.variables.Count();
+  for (const Definition& definition : pending.variables) {
     const auto entry = Database()->ReadObject(definition);
     const auto variable = entry ? entry->MakeVariable() : nullptr;
     if (!variable || !variable->ToBeWritten()) continue;
@@ -64,7 +63,7 @@ WriteChangesOperation::Pass WriteChangesOperation::RunPass(const DefinitionList&
       CheckGoesOn();
       if (!goesOn) return pass;
       pass.wroteSomething = true;
-      ShowProgress(variables.Count() - pending.Count(), variables.Count());
+      ShowProgress(all - pending.count->Count(), all);
     }
   }
   return pass;

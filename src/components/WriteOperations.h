@@ -15,8 +15,8 @@ class WriteChangesOperation : public DataSetOperation {
     std::size_t deferred = 0;
     bool wroteSomething = false;
   };
-  void WriteInPasses(const ZAFHartTypes::DefinitionList& variables) const;
-  Pass RunPass(const ZAFHartTypes::DefinitionList& variables, const StateCounter& pending) const;
+  void WriteInPasses(const MarkedVariables& pending) const;
+  Pass RunPass(const MarkedVariables& pending) const;
   bool HasPendingDependency(const ZAFHartTypes::Variable& variable) const;
   bool IsPending(const ZAFHartTypes::Definition& definition) const;
   void GiveUpWriting(const ZAFHartTypes::Variable& variable) const;

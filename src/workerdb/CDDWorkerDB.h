@@ -130,8 +130,7 @@ class CDDWorkerDB : public platform::Object,
   // Values stay available, whatever their age, while somebody holds the result: held through
   // uploads, downloads and write-changes.
   [[nodiscard]] std::shared_ptr<const void> SuspendExpiry() { return expirySuspension_; }
-  // All variables that bear the mark, in database order.
-  DefinitionList Marked(VariableMark mark) const;
+  MarkedVariables WatchMarked(VariableMark mark);
   // A running count of the listed variables that bear the mark (see StateCounter).
   std::shared_ptr<StateCounter> CountMarked(VariableMark mark,
                                             const DefinitionList& definitions = {});

@@ -75,11 +75,13 @@ void CDDWorkerDB::MissingChanged(ZAFHartTypes::TextKey variable, bool missing) {
   });
 }
 
-DefinitionList CDDWorkerDB::Marked(VariableMark mark) const {
-  DefinitionList marked;
+MarkedVariables CDDWorkerDB::WatchMarked(VariableMark mark) {
+  MarkedVariables marked{{}, CountMarked(mark)};
   for (const auto& [name, entry] : objects_) {
     const Variable* variable = ViewOf<Variable>(entry);
-    if (variable && Bears(*variable, mark)) marked.Add(variable->Definition());
+    if (!variable || !Bears(*variable, mark)) continue;
+    marked.variables.Add(variable->Definition());
+    marked.count->Watch(name, true);
   }
   return marked;
 }

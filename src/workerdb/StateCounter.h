@@ -2,7 +2,9 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <memory>
 
+#include "ddobjects/DefinitionList.h"
 #include "ddobjects/KeyedList.h"
 
 namespace ZAFHartLib {
@@ -42,6 +44,13 @@ class StateCounter {
   std::size_t count_ = 0;
   std::size_t watched_ = 0;
   ZAFHartTypes::KeyedList<std::size_t> timesWatched_;
+};
+
+// The variables that bore a mark when they were looked for, in database order, and the running
+// count of them.
+struct MarkedVariables {
+  ZAFHartTypes::DefinitionList variables;
+  std::shared_ptr<StateCounter> count;
 };
 
 }  // namespace ZAFHartLib
