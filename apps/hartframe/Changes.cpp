@@ -7,6 +7,7 @@
 #include "hartframe/ValueText.h"
 #include "hartframe/dataset/DataSetTexts.h"
 #include "hartframe/dataset/KeptDataSet.h"
+#include "hartframe/link/LinkTexts.h"
 #include "types/Failure.h"
 
 namespace hartframe {
@@ -176,7 +177,11 @@ void KeepPending(Session& session, const std::vector<Change>& notAccepted) {
   SaveChanges(session, notAccepted);
   if (session.Kept() && !rows.empty()) TellKept(session, session.Kept()->Path());
   const bool isInFile = !notAccepted.empty() || (!session.Kept() && !rows.empty());
-  if (isInFile && session.Pending().Keeps()) TellKept(session, session.Pending().Path());
+  if (!isInFile) return;
+  if (session.Pending().Keeps())
+    TellKept(session, session.Pending().Path());
+  else if (IsReal(session.Settings().link))
+    session.Tell().Note("notKept", session.Say()(texts::kNotKept));
 }
 
 void RequireWriteAccess(const Session& session) {

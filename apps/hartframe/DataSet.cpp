@@ -101,7 +101,8 @@ ExitCode CodeOfTroubles(std::span<const VariableRow> rows) {
 
 void TellTroubles(Session& session, std::span<const VariableRow> rows) {
   const Speech& say = session.Say();
-  if (HasTrouble(rows, Trouble::Communication)) {
+  // Why a real device cannot be reached is told at the end of the run.
+  if (HasTrouble(rows, Trouble::Communication) && session.ConnectionProblem().empty()) {
     const bool silent = IsSilent(rows);
     session.Tell().Problem(silent ? "noAnswer" : "disturbed",
                            say(silent ? Text::NoDevice : Text::DisturbedDevice));

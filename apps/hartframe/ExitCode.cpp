@@ -32,6 +32,8 @@ constexpr std::array kEntries{
     Entry{ExitCode::DtmNotLoadable, "dtmNotLoadable", "the DTM cannot be loaded"},
     Entry{ExitCode::DeviceRefused, "deviceRefused", "the device answered with an error"},
     Entry{ExitCode::Communication, "communication", "the device did not answer, or not properly"},
+    Entry{ExitCode::WrongDevice, "wrongDevice",
+          "another device answers than the DTM is for; nothing was written to it"},
     Entry{ExitCode::FileBroken, "fileBroken",
           "a device file, a file of pending changes or a data set cannot be used"},
     Entry{ExitCode::Internal, "internal", "a failure that should not be"},

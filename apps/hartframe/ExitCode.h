@@ -21,6 +21,7 @@ enum class ExitCode {
   AnswerRefused = 9,   // an answer to a method is missing or not accepted; it was aborted
   MethodFailed = 10,   // a failure ended the method
   Different = 11,      // compare has found differences
+  WrongDevice = 12,    // another device answers than the DTM, or the address given, is for
   Internal = 70,       // a failure that should not be
   Interrupted = 130,   // Ctrl-C
 };

@@ -24,14 +24,13 @@ void TellDtm(Session& session) {
   if (const auto information = components.KernelInformation()) {
     ZAFHartTypes::IgnoreFailures([&] { file = information->ComponentFileName(); });
   }
-  const std::string link = options.link == LinkKind::Echo ? "echo" : options.deviceFile.string();
   std::vector<Fact> facts{
       {"class", say(Text::InfoClass), components.DataModelClass()},
       {"componentFile", say(Text::InfoFile), file},
       {"plugin", say(Text::InfoPlugin), session.PluginFile().string()},
       {"variables", say(Text::InfoVariables), std::to_string(session.AllVariables(false).size())},
       {"commands", say(Text::InfoCommands), std::to_string(session.Kernel().Commands().Count())},
-      {"link", say(Text::InfoLink), link},
+      {"link", say(Text::InfoLink), LinkText(options)},
       {"pendingChanges", say(Text::InfoPending), std::to_string(LoadPending(session).size())}};
   session.Tell().Facts("dtmFacts", say(Text::InfoDtm), facts);
 }

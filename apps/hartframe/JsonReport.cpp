@@ -1,5 +1,7 @@
 #include "hartframe/JsonReport.h"
 
+#include "hart/HexText.h"
+#include "hart/StatusBytes.h"
 #include "hartframe/TextReport.h"
 #include "hartframe/ValueText.h"
 #include "types/Failure.h"
@@ -108,9 +110,9 @@ Json MenuRowsJson(std::span<const MenuRow> rows) {
 constexpr int kOneLine = -1;
 constexpr const char* kOutcomes[] = {"written",     "adjusted", "refused",
                                      "notAccepted", "noAnswer", "notAttempted"};
-constexpr const char* kCommands[] = {"upload", "download", "write",   "read",        "list",
-                                     "watch",  "info",     "menu",    "run",         "browse",
-                                     "save",   "pair",     "compare", "probe-plugin"};
+constexpr const char* kCommands[] = {"upload",  "download", "write", "read",        "list", "watch",
+                                     "info",    "menu",     "run",   "browse",      "save", "pair",
+                                     "compare", "scan",     "raw",   "probe-plugin"};
 
 }  // namespace
 
@@ -118,7 +120,9 @@ JsonReport::JsonReport(Console& console, const Options& options)
     : console_(console),
       document_{{"command", kCommands[static_cast<std::size_t>(options.command)]},
                 {"dtm", options.dtm},
-                {"language", options.language}} {}
+                {"language", options.language}} {
+  if (options.dtm.empty()) document_.erase("dtm");
+}
 
 void JsonReport::Message(const ZAFHartTypes::UserMessage& message) {
   document_["messages"].push_back({{"icon", static_cast<int>(message.icon)},
@@ -195,6 +199,39 @@ void JsonReport::Menu(const MenuView& view) {
   json["items"] = MenuRowsJson(view.items);
   if (view.kind == ZAFHartTypes::ObjectKind::EditDisplay)
     json["editItems"] = MenuRowsJson(view.editItems);
+}
+
+void JsonReport::Devices(std::span<const FoundDevice> devices) {
+  Json& json = document_["devices"];
+  json = Json::array();
+  for (const FoundDevice& device : devices) {
+    const auto& identity = device.identity;
+    json.push_back({{"pollingAddress", nullptr},
+                    {"longAddress", identity.LongAddress()},
+                    {"tag", device.tag},
+                    {"longTag", device.longTag},
+                    {"manufacturer", identity.Manufacturer()},
+                    {"expandedType", identity.expandedType},
+                    {"deviceRevision", identity.deviceRevision},
+                    {"universalRevision", identity.universalRevision},
+                    {"deviceId", identity.deviceId}});
+    if (device.pollingAddress) json.back()["pollingAddress"] = *device.pollingAddress;
+  }
+}
+
+void JsonReport::Reply(const RawReply& reply) {
+  const bool isDisturbed = ZAFHartTypes::hart::IsCommunicationError(reply.bytes[0]);
+  Json json{{"command", reply.command},
+            {"address", reply.address},
+            {"responseCode", nullptr},
+            {"communicationError", nullptr},
+            {"deviceStatus", reply.bytes[1]},
+            {"texts", Json::array()},
+            {"data", ZAFHartTypes::hart::ToHex(std::span(reply.bytes).subspan(2))}};
+  json[isDisturbed ? "communicationError" : "responseCode"] = reply.bytes[0];
+  const Speech speech(document_["language"].get<std::string>());
+  for (const std::string& text : StatusTexts(reply)) json["texts"].push_back(speech.Pick(text));
+  document_["reply"] = std::move(json);
 }
 
 void JsonReport::Finish(ExitCode code) {

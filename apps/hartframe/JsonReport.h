@@ -28,6 +28,8 @@ class JsonReport : public Report {
   void Facts(std::string_view section, const std::string& title,
              std::span<const Fact> facts) override;
   void Menu(const MenuView& view) override;
+  void Devices(std::span<const FoundDevice> devices) override;
+  void Reply(const RawReply& reply) override;
   void Finish(ExitCode code) override;
 
  private:

@@ -2,11 +2,12 @@
 
 #include <unistd.h>
 
-#include <CLI/CLI.hpp>
 #include <cstdlib>
 #include <map>
 
+#include "hartframe/CommandAdder.h"
 #include "hartframe/ExitCode.h"
+#include "hartframe/link/LinkOptions.h"
 #include "platform/Version.h"
 
 namespace hartframe {
@@ -23,9 +24,6 @@ const std::map<std::string, UserLevel> kUserLevels{{"observer", UserLevel::Obser
                                                    {"maintenance", UserLevel::Maintenance},
                                                    {"engineer", UserLevel::PlanningEngineer}};
 
-const std::map<std::string, LinkKind> kLinks{{"echo", LinkKind::Echo},
-                                             {"device", LinkKind::Device}};
-
 // Folder of the running program; the DTMs that ship with it stand beside it.
 fs::path ProgramFolder() {
   std::error_code error;
@@ -33,13 +31,7 @@ fs::path ProgramFolder() {
   return error ? fs::current_path() : program.parent_path();
 }
 
-struct Parsed {
-  Options options;
-  std::optional<LinkKind> link;
-};
-
-void AddDtmOptions(CLI::App& app, Parsed& parsed) {
-  Options& options = parsed.options;
+void AddDtmOptions(CLI::App& app, Options& options) {
   app.add_option("--dtm", options.dtm, "DTM to load: the project of its classes, \"Vendor\"")
       ->type_name("NAME");
   app.add_option("--dtm-path", options.pluginPath,
@@ -52,36 +44,13 @@ void AddDtmOptions(CLI::App& app, Parsed& parsed) {
       ->type_name("observer|operator|maintenance|engineer");
 }
 
-void AddLinkOptions(CLI::App& app, Parsed& parsed) {
-  Options& options = parsed.options;
-  app.add_option("--device", options.deviceFile,
-                 "Memory of the emulated device; changes are kept in it. Changes that could not "
-                 "be written are kept in FILE.pending")
-      ->type_name("FILE");
-  app.add_option("--link", parsed.link,
-                 "echo: the data set answers itself; device: an emulated device with its own "
-                 "memory (default when --device is given)")
-      ->transform(CLI::CheckedTransformer(kLinks, CLI::ignore_case))
-      ->type_name("echo|device");
-  app.add_option("--address", options.pollingAddress, "The device's polling address (default: 0)")
-      ->type_name("N")
-      ->check(CLI::Range(0, 63));
-  app.add_option("--fault", options.faults, "Fault of the emulated device (repeatable)")
-      ->type_name("FAULT")
-      ->allow_extra_args(false);
-  app.add_option("--latency", options.latencyMilliseconds, "Time that an exchange takes")
-      ->type_name("MS")
-      ->check(CLI::Range(0, 600000));
-}
-
 void AddDataSetOption(CLI::App& app, Options& options) {
   app.add_option("--dataset", options.dataSetFile,
                  "Data set on disk to work on: restored at the start, kept at the end")
       ->type_name("FILE");
 }
 
-void AddOutputOptions(CLI::App& app, Parsed& parsed) {
-  Options& options = parsed.options;
+void AddOutputOptions(CLI::App& app, Options& options) {
   app.add_option("--lang", options.language, "Language of texts (default: the environment's)")
       ->type_name("en|de|fr|it|es|kt")
       ->check(CLI::IsMember(kLanguages));
@@ -98,21 +67,6 @@ void AddOutputOptions(CLI::App& app, Parsed& parsed) {
       ->type_name("N")
       ->check(CLI::Range(0, 9));
 }
-
-class CommandAdder {
- public:
-  CommandAdder(CLI::App& app, Options& options) : app_(app), options_(options) {}
-
-  CLI::App& Add(CommandKind kind, const std::string& name, const std::string& description) {
-    CLI::App& command = *app_.add_subcommand(name, description);
-    command.callback([this, kind] { options_.command = kind; });
-    return command;
-  }
-
- private:
-  CLI::App& app_;
-  Options& options_;
-};
 
 void AddDataSetCommands(CommandAdder& adder, Options& options) {
   CLI::App& save = adder.Add(CommandKind::Save, "save",
@@ -220,16 +174,13 @@ void CheckBrowse(const Options& options) {
   }
 }
 
-void Complete(Parsed& parsed) {
-  Options& options = parsed.options;
+void Complete(Options& options) {
   for (fs::path& folder : options.pluginPath) folder = fs::absolute(folder);
   options.pluginPath.push_back((ProgramFolder() / "../lib/dtms").lexically_normal());
-  options.link =
-      parsed.link.value_or(options.deviceFile.empty() ? LinkKind::Echo : LinkKind::Device);
-  if (options.link == LinkKind::Echo && !options.deviceFile.empty()) {
-    throw CLI::ValidationError("--device needs --link device");
-  }
-  if (options.dtm.empty() && options.command != CommandKind::ProbePlugin) {
+  CompleteLink(options);
+  const bool needsDtm =
+      options.command != CommandKind::ProbePlugin && !IsWithoutDtm(options.command);
+  if (options.dtm.empty() && needsDtm) {
     throw CLI::RequiredError("--dtm");
   }
   if (OpensPair(options) && options.dataSetFile.empty()) throw CLI::RequiredError("--dataset");
@@ -242,6 +193,12 @@ void Complete(Parsed& parsed) {
 bool OpensPair(const Options& options) {
   return options.command == CommandKind::Pair || options.command == CommandKind::Compare ||
          options.browsePair;
+}
+
+std::string LinkText(const Options& options) {
+  if (IsReal(options.link)) return options.givenLink->text;
+  if (options.link == LinkKind::Echo) return "echo";
+  return options.deviceFile.empty() ? "device" : options.deviceFile.string();
 }
 
 std::string LanguageFromEnvironment() {
@@ -257,27 +214,28 @@ std::string LanguageFromEnvironment() {
 }
 
 Options ParseCommandLine(int argc, char** argv) {
-  Parsed parsed;
-  parsed.options.language = LanguageFromEnvironment();
+  Options options;
+  options.language = LanguageFromEnvironment();
   CLI::App app("A frame application for DTMs of HART devices", "hartframe");
   app.set_version_flag("--version", "hartframe " ZAFHARTLIB_VERSION);
   app.footer(ExitCodeHelp());
   app.require_subcommand(1);
   app.fallthrough();
-  AddDtmOptions(app, parsed);
-  AddLinkOptions(app, parsed);
-  AddDataSetOption(app, parsed.options);
-  AddOutputOptions(app, parsed);
-  CommandAdder adder(app, parsed.options);
-  AddCommands(adder, parsed.options);
-  AddDataSetCommands(adder, parsed.options);
+  AddDtmOptions(app, options);
+  AddLinkOptions(app, options);
+  AddDataSetOption(app, options);
+  AddOutputOptions(app, options);
+  CommandAdder adder(app, options);
+  AddCommands(adder, options);
+  AddDataSetCommands(adder, options);
+  AddLinkCommands(adder, options);
   try {
     app.parse(argc, argv);
-    Complete(parsed);
+    Complete(options);
   } catch (const CLI::ParseError& error) {
     std::exit(app.exit(error) == 0 ? 0 : static_cast<int>(ExitCode::Usage));
   }
-  return std::move(parsed.options);
+  return options;
 }
 
 }  // namespace hartframe

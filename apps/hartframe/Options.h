@@ -5,6 +5,8 @@
 #include <string>
 #include <vector>
 
+#include "hartframe/link/DeviceAddress.h"
+#include "hartframe/link/LinkName.h"
 #include "interfaces/Codes.h"
 
 namespace hartframe {
@@ -23,9 +25,15 @@ enum class CommandKind {
   Save,
   Pair,
   Compare,
+  Scan,
+  Raw,
   ProbePlugin
 };
-enum class LinkKind { Echo, Device };
+
+// The command talks to devices, or to none, without a DTM.
+constexpr bool IsWithoutDtm(CommandKind command) {
+  return command == CommandKind::Scan || command == CommandKind::Raw;
+}
 
 // What the command line asks for.
 struct Options {
@@ -35,10 +43,19 @@ struct Options {
   std::vector<std::filesystem::path> pluginPath;  // absolute
   std::filesystem::path deviceFile;               // empty: none
   LinkKind link = LinkKind::Echo;
+  std::optional<LinkName> givenLink;  // --link; of a real one with its settings
   std::filesystem::path dataSetFile;  // that the run works on; empty: none
   std::vector<std::string> faults;
   int latencyMilliseconds = 0;
-  int pollingAddress = 0;  // of the device
+  DeviceAddress address;
+  std::optional<int> retries;         // of a real link; nothing: its default
+  std::optional<int> busyAttempts;    // nothing: a busy device is not asked again
+  std::filesystem::path pcapFile;     // empty: none
+  std::filesystem::path pendingFile;  // empty: beside the device file
+  int firstAddress = 0;               // of scan
+  int lastAddress = 63;
+  int rawCommand = 0;  // of raw
+  std::vector<std::uint8_t> rawData;
 
   std::string language = "en";
   bool json = false;
@@ -70,6 +87,9 @@ struct Options {
 
 // The run opens the data set on disk as the offline side of a pair.
 bool OpensPair(const Options& options);
+
+// The link, as users know it: "echo", the device file, or what --link names.
+std::string LinkText(const Options& options);
 
 // Reads the command line. Ends the process itself for --help and --version (code 0) and for wrong
 // arguments (ExitCode::Usage, with the reason on standard error).

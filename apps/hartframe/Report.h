@@ -9,6 +9,7 @@
 #include "hartframe/MenuView.h"
 #include "hartframe/VariableRow.h"
 #include "hartframe/dataset/Comparison.h"
+#include "hartframe/link/LinkResults.h"
 #include "interfaces/IDDDTMGUI.h"
 
 namespace hartframe {
@@ -55,6 +56,9 @@ class Report {
   virtual void Facts(std::string_view section, const std::string& title,
                      std::span<const Fact> facts) = 0;
   virtual void Menu(const MenuView& view) = 0;
+  // Who answered a scan, and the answer to a raw command.
+  virtual void Devices(std::span<const FoundDevice> devices) = 0;
+  virtual void Reply(const RawReply& reply) = 0;
   // The end of the run; nothing comes after it.
   virtual void Finish(ExitCode code) = 0;
 };

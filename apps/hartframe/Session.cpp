@@ -9,6 +9,7 @@
 #include "hartframe/MessageControl.h"
 #include "hartframe/NamePattern.h"
 #include "hartframe/PluginProbe.h"
+#include "interfaces/IDeviceConnection.h"
 #include "interfaces/InternalNames.h"
 #include "platform/Platform.h"
 #include "workerdb/CDDWorkerDB.h"
@@ -26,8 +27,8 @@ namespace names = ZAFHartTypes::internal_names;
 
 // In a pair the changes are the offline side's.
 std::filesystem::path PendingPath(const Options& options, bool isOffline) {
-  if (options.deviceFile.empty()) return {};
   if (!isOffline && OpensPair(options)) return {};
+  if (!options.pendingFile.empty() || options.deviceFile.empty()) return options.pendingFile;
   return std::filesystem::path(options.deviceFile.string() + ".pending");
 }
 
@@ -81,7 +82,8 @@ void Session::PrepareClasses() {
 void Session::LoadDtm() {
   components_ = ZAFHartLib::CDDComponents::Create();
   components_->SetDataModelClass(options_.dtm + ".DataModel");
-  components_->SetCommWrapperClass("ZAFHartLib.CDDTestCommWrapper");
+  components_->SetCommWrapperClass(IsReal(options_.link) ? "ZAFHartLib.CHARTCommWrapper"
+                                                         : "ZAFHartLib.CDDTestCommWrapper");
   try {
     components_->Initialize();
   } catch (const Failure& failure) {
@@ -109,13 +111,22 @@ void Session::SetInterruptHandler() {
 
 void Session::Connect() {
   if (isOffline_) return Comm().SetEmulate(true);
-  link_ = MakeLink(options_);
+  connection_ = Connection(options_);
   const auto user = std::dynamic_pointer_cast<ZAFHartTypes::ILinkUser>(components_->HARTComm());
-  Require(user).SetLink(link_);
+  Require(user).SetLink(connection_.Link());
   if (options_.command == CommandKind::List) return;
-  Comm().SetAddressInformation(options_.pollingAddress, {}, {});
+  SetAddress();
   // The DTM's defaults count as values; for those who ask the device they are not what it has.
   Database().SetVariableAvailable({}, false);
+}
+
+void Session::SetAddress() {
+  const DeviceAddress& address = options_.address;
+  if (const auto connection =
+          std::dynamic_pointer_cast<ZAFHartTypes::IDeviceConnection>(components_->HARTComm())) {
+    connection->SetAddressing(address.addressing);
+  }
+  Comm().SetAddressInformation(address.polling, address.tag, address.longAddress);
 }
 
 void Session::SetSessionVariables() {
@@ -129,6 +140,7 @@ void Session::SetSessionVariables() {
   const char* user = std::getenv("USER");
   set("__ZAF__FDTUserName", user ? user : "");
   set("__ZAF__FDTDTMState", isOffline_ ? kRunning : kOnline);
+  if (options_.busyAttempts) set(names::kRetryNumber, *options_.busyAttempts);
 }
 
 ZAFHartTypes::IDDKernel& Session::Kernel() {
@@ -210,11 +222,25 @@ bool Session::Run(const std::function<void()>& operation,
 }
 
 ExitCode Session::TellFileErrors() {
-  const auto device = std::dynamic_pointer_cast<DeviceConnection>(link_);
-  if (!device || device->FileErrors().empty()) return ExitCode::Ok;
-  for (const std::string& error : device->FileErrors())
-    report_.Problem(NameOf(ExitCode::FileBroken), error);
-  return ExitCode::FileBroken;
+  const std::set<std::string> errors = connection_.FileErrors();
+  for (const std::string& error : errors) report_.Problem(NameOf(ExitCode::FileBroken), error);
+  return errors.empty() ? ExitCode::Ok : ExitCode::FileBroken;
+}
+
+std::string Session::ConnectionProblem() {
+  const auto connection =
+      std::dynamic_pointer_cast<ZAFHartTypes::IDeviceConnection>(components_->HARTComm());
+  return connection ? speech_.Pick(connection->ConnectionError()) : "";
+}
+
+ExitCode Session::TellConnection() {
+  const std::string problem = ConnectionProblem();
+  if (problem.empty()) return ExitCode::Ok;
+  const auto& connection = dynamic_cast<ZAFHartTypes::IDeviceConnection&>(Comm());
+  const bool isWrong = connection.OnlineState() == ZAFHartTypes::DtmOnlineState::WrongDevice;
+  const ExitCode code = isWrong ? ExitCode::WrongDevice : ExitCode::Communication;
+  report_.Problem(isWrong ? NameOf(code) : "noDevice", problem);
+  return code;
 }
 
 bool Session::Run(const std::function<void()>& operation) {
@@ -222,7 +248,9 @@ bool Session::Run(const std::function<void()>& operation) {
     signals_->Check();
     if (!Interrupted()) operation();
   } catch (const Failure& failure) {
-    if (failure.Number() != ErrorNumber::Cancelled) throw;
+    const bool isKnown =
+        failure.Number() == ErrorNumber::Cancelled || failure.Number() == ErrorNumber::NotConnected;
+    if (!isKnown) throw;
   }
   return !Interrupted();
 }

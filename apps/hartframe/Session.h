@@ -71,7 +71,8 @@ class Session {
   std::vector<ZAFHartTypes::Definition> FindAll(const std::vector<std::string>& patterns,
                                                 bool internalToo);
 
-  // Runs an operation that Ctrl-C ends; false when it did.
+  // Runs an operation that Ctrl-C ends; false when it did. One that ends for want of a connection
+  // to a real device has done what it could: see ConnectionProblem.
   bool Run(const std::function<void()>& operation);
   // The same, with something else to be done about Ctrl-C.
   bool Run(const std::function<void()>& operation, const std::function<void()>& onInterrupt);
@@ -79,13 +80,19 @@ class Session {
   SignalWatch& Signals() { return *signals_; }
   // Speaks another language from now on: "en", "de", "fr", "it", "es" or "kt".
   void SetLanguage(const std::string& language);
-  // What the emulated device could not do with its file; tells each.
+  // Tells what the emulated device could not do with its file, and the like.
   ExitCode TellFileErrors();
+  // Why there is no connection to a real device, in the user's language; "" when there is one, or
+  // nothing has been asked.
+  std::string ConnectionProblem();
+  // Tells that at the end of the run.
+  ExitCode TellConnection();
 
  private:
   void PrepareClasses();
   void LoadDtm();
   void Connect();
+  void SetAddress();
   void RegisterControls();
   void SetSessionVariables();
   void SetInterruptHandler();
@@ -98,7 +105,7 @@ class Session {
   std::shared_ptr<SignalWatch> signals_;  // shared by both sides of a pair
   const bool isOffline_;
   std::filesystem::path plugin_;
-  std::shared_ptr<HartLinkSim::SimulatedLink> link_;
+  Connection connection_;
   std::shared_ptr<ErrorWatch> errors_;
   std::shared_ptr<ViewControl> view_;
   std::shared_ptr<ZAFHartLib::CDDComponents> components_;

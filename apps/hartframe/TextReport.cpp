@@ -1,10 +1,14 @@
 #include "hartframe/TextReport.h"
 
+#include <algorithm>
 #include <chrono>
 #include <ctime>
 
+#include "hart/HexText.h"
+#include "hart/StatusBytes.h"
 #include "hartframe/MenuTexts.h"
 #include "hartframe/dataset/DataSetTexts.h"
+#include "hartframe/link/LinkTexts.h"
 #include "platform/Platform.h"
 #include "types/Utf8.h"
 
@@ -80,14 +84,23 @@ void TextReport::Note(std::string_view, const std::string& sentence) {
   console_.Out(sentence);
 }
 
+bool TextReport::IsTold(const std::string& sentence) const {
+  return std::any_of(messages_.begin(), messages_.end(), [&](const auto& message) {
+    return OneLine(message.first.second) == sentence;
+  });
+}
+
+// A message of the DTM may have said it already.
 void TextReport::Problem(std::string_view, const std::string& sentence) {
-  console_.Error(sentence);
+  if (!IsTold(sentence)) console_.Error(sentence);
 }
 
 void TextReport::Variables(std::span<const VariableRow> rows) {
   std::vector<std::vector<std::string>> cells;
-  for (const VariableRow& row : rows)
+  for (VariableRow row : rows) {
+    if (IsTold(row.error)) row.error.clear();  // of all of them, for want of a connection
     cells.push_back({row.name, row.label, row.value, row.unit, StateText(row, speech_)});
+  }
   console_.Table({speech_(Text::ColumnName), speech_(Text::ColumnLabel), speech_(Text::ColumnValue),
                   speech_(Text::ColumnUnit), speech_(Text::ColumnState)},
                  cells);
@@ -152,6 +165,40 @@ void TextReport::Menu(const MenuView& view) {
   const bool isMenu = view.kind == ZAFHartTypes::ObjectKind::Menu;
   MenuTable(isMenu ? "" : speech_(texts::kShownItems), view.items);
   MenuTable(speech_(texts::kEditedItems), view.editItems);
+}
+
+void TextReport::Devices(std::span<const FoundDevice> devices) {
+  std::vector<std::vector<std::string>> cells;
+  for (const FoundDevice& device : devices) {
+    const auto& identity = device.identity;
+    cells.push_back({device.pollingAddress ? std::to_string(*device.pollingAddress) : "-",
+                     identity.LongAddress(), OneLine(device.tag),
+                     std::to_string(identity.Manufacturer()), std::to_string(identity.expandedType),
+                     std::to_string(identity.deviceRevision),
+                     std::to_string(identity.universalRevision), OneLine(device.longTag)});
+  }
+  if (cells.empty()) return;
+  console_.Table(
+      {speech_(texts::kColumnAddress), speech_(texts::kColumnLongAddress),
+       speech_(texts::kColumnTag), speech_(texts::kColumnManufacturer), speech_(texts::kColumnType),
+       speech_(texts::kColumnRevision), "HART", speech_(texts::kColumnLongTag)},
+      cells);
+}
+
+void TextReport::Reply(const RawReply& reply) {
+  std::vector<Fact> facts;
+  const bool isDisturbed = ZAFHartTypes::hart::IsCommunicationError(reply.bytes[0]);
+  facts.push_back({"", speech_(isDisturbed ? texts::kReplyCommunication : texts::kReplyCode),
+                   isDisturbed ? HexByte(reply.bytes[0]) : std::to_string(reply.bytes[0])});
+  facts.push_back({"", speech_(texts::kReplyStatus), HexByte(reply.bytes[1])});
+  for (const std::string& text : StatusTexts(reply))
+    facts.push_back({"", speech_(texts::kReplyMeaning), speech_.Pick(text)});
+  std::string data;
+  for (const std::uint8_t byte : std::span(reply.bytes).subspan(2))
+    data += (data.empty() ? "" : " ") + ZAFHartTypes::hart::ToHex({&byte, 1});
+  facts.push_back({"", speech_(texts::kReplyData), data});
+  Facts("reply", speech_(texts::kReplyTitle, {std::to_string(reply.command), reply.address}),
+        facts);
 }
 
 void TextReport::MenuTable(const std::string& title, std::span<const MenuRow> rows) {

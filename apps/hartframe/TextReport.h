@@ -30,9 +30,13 @@ class TextReport : public Report {
   void Facts(std::string_view section, const std::string& title,
              std::span<const Fact> facts) override;
   void Menu(const MenuView& view) override;
+  void Devices(std::span<const FoundDevice> devices) override;
+  void Reply(const RawReply& reply) override;
   void Finish(ExitCode code) override;
 
  private:
+  // A message of the DTM has said that.
+  bool IsTold(const std::string& sentence) const;
   void MenuTable(const std::string& title, std::span<const MenuRow> rows);
 
   Console& console_;

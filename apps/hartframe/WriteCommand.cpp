@@ -71,7 +71,10 @@ ExitCode RunWrite(Session& session) {
   std::vector<Change> all = pending;
   all.insert(all.end(), changes.begin(), changes.end());
   const ExitCode read = ReadForChanges(session, all);
-  if (read == ExitCode::Interrupted) return read;
+  if (read == ExitCode::Interrupted) {
+    KeepPending(session, ApplyPending(session, all));
+    return read;
+  }
   const std::vector<Change> notAccepted = ApplyPending(session, pending);
   try {
     ApplyChanges(session, changes);

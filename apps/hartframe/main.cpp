@@ -6,6 +6,7 @@
 #include "hartframe/PluginProbe.h"
 #include "hartframe/TextReport.h"
 #include "hartframe/dataset/WorkOnDataSet.h"
+#include "hartframe/link/LinkCommands.h"
 #include "platform/Platform.h"
 
 namespace hartframe {
@@ -39,6 +40,8 @@ ExitCode RunCommand(Session& session) {
     case CommandKind::Compare:
       return RunCompare(session);
     case CommandKind::Info:
+    case CommandKind::Scan:
+    case CommandKind::Raw:
     case CommandKind::ProbePlugin:
       break;
   }
@@ -46,18 +49,31 @@ ExitCode RunCommand(Session& session) {
 }
 
 ExitCode RunSession(const Options& options, Console& console, Speech& speech, Report& report) {
+  Session session(options, console, speech, report);
+  session.Open();
+  TellMissingIdentity(session);
+  const ExitCode code = RunOnDataSet(session, RunCommand);
+  return Worse(Worse(code, session.TellConnection()), session.TellFileErrors());
+}
+
+ExitCode RunAny(const Options& options, Console& console, Speech& speech, Report& report) {
+  if (options.command == CommandKind::Scan) return RunScan(options, console, speech, report);
+  if (options.command == CommandKind::Raw) return RunRaw(options, speech, report);
+  return RunSession(options, console, speech, report);
+}
+
+ExitCode RunGuarded(const Options& options, Console& console, Speech& speech, Report& report) {
   try {
-    Session session(options, console, speech, report);
-    session.Open();
-    TellMissingIdentity(session);
-    const ExitCode code = RunOnDataSet(session, RunCommand);
-    return Worse(code, session.TellFileErrors());
+    return RunAny(options, console, speech, report);
   } catch (const CommandFailure& failure) {
     report.Problem(NameOf(failure.Code()), failure.Description());
     return failure.Code();
   } catch (const platform::Failure& failure) {
-    report.Problem(NameOf(ExitCode::Internal), failure.Source() + ": " + failure.Description());
-    return ExitCode::Internal;
+    const bool isInterrupted = failure.Number() == platform::ErrorNumber::Cancelled;
+    const ExitCode code = isInterrupted ? ExitCode::Interrupted : ExitCode::Internal;
+    report.Problem(NameOf(code), isInterrupted ? speech(Text::Interrupted)
+                                               : failure.Source() + ": " + failure.Description());
+    return code;
   }
 }
 
@@ -71,7 +87,7 @@ int Run(const Options& options) {
     report = std::make_unique<JsonReport>(console, options);
   else
     report = std::make_unique<TextReport>(console, speech);
-  const ExitCode code = RunSession(options, console, speech, *report);
+  const ExitCode code = RunGuarded(options, console, speech, *report);
   report->Finish(code);
   return static_cast<int>(code);
 }

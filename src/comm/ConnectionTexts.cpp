@@ -44,7 +44,8 @@ std::string ListText(std::span<const SupportedDevice> devices) {
 
 }  // namespace
 
-std::string NoDeviceText(const std::string& address, const std::string& reason) {
+std::string NoDeviceText(const std::string& address, std::string reason) {
+  if (reason.ends_with('.')) reason.pop_back();  // the text goes on
   return Filled(reason.empty() ? idErrNoDeviceAnswers : idErrNoDeviceReason, address, reason);
 }
 

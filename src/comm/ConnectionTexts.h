@@ -10,7 +10,7 @@
 namespace ZAFHartLib {
 
 // `reason` is what the link tells; "" when nobody answered.
-std::string NoDeviceText(const std::string& address, const std::string& reason);
+std::string NoDeviceText(const std::string& address, std::string reason);
 // "" for a device that the DTM is for: one of `supported`, or any when that is empty.
 std::string WrongDeviceText(std::span<const ZAFHartTypes::SupportedDevice> supported,
                             const ZAFHartTypes::hart::DeviceIdentity& found);

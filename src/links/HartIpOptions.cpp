@@ -10,7 +10,10 @@ namespace HartLinks {
 using platform::Milliseconds;
 
 HartIpOptions HartIpOptions::FromSettings() {
-  const LinkSettings settings(kHartIpSettingsKey);
+  return From(LinkSettings(kHartIpSettingsKey));
+}
+
+HartIpOptions HartIpOptions::From(const LinkSettings& settings) {
   const auto time = [&](std::string_view name, Milliseconds otherwise, int least) {
     return Milliseconds{
         settings.Number(name, static_cast<int>(otherwise.count()), least, 86'400'000)};
@@ -20,7 +23,7 @@ HartIpOptions HartIpOptions::FromSettings() {
   if (options.server.host.empty()) {
     throw platform::Failure(
         platform::ErrorNumber::InvalidArgument, "HartLinks.HartIpOptions",
-        "Setting \"Host\" of the key " + std::string(kHartIpSettingsKey) +
+        "Setting \"Host\" of " + settings.Place() +
             " is missing; it has to be the name or address of a HART-IP server.");
   }
   options.server.port = static_cast<std::uint16_t>(

@@ -9,6 +9,8 @@
 
 namespace HartLinks {
 
+class LinkSettings;
+
 // Registry key of the settings that a "HartIp.Link" takes when it is created by its class name:
 // "Host", "Port", "Transport" (udp, tcp), "Master" (primary, secondary), "Timeout",
 // "ConnectTimeout" and "InactivityTime" (milliseconds), "Retries", "Outstanding", "BusyAttempts",
@@ -44,6 +46,7 @@ struct HartIpOptions {
 
   // Raises InvalidArgument naming the setting that is missing ("Host") or cannot be read.
   static HartIpOptions FromSettings();
+  static HartIpOptions From(const LinkSettings& settings);
 };
 
 }  // namespace HartLinks

@@ -13,7 +13,7 @@ class HartModemLink : public FrameLink {
  public:
   // From the settings (kModemSettingsKey); raises InvalidArgument naming the one that is missing or
   // wrong. The port is opened by the first exchange.
-  HartModemLink() : HartModemLink(ModemOptionsFromSettings()) {}
+  HartModemLink() : HartModemLink(ModemOptions::FromSettings()) {}
   explicit HartModemLink(const ModemOptions& options)
       : HartModemLink(HartLine::Shared(options), options.busy) {}
   HartModemLink(std::shared_ptr<HartLine> line, BusyPolicy busy)

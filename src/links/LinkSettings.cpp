@@ -6,8 +6,15 @@
 
 namespace HartLinks {
 
+LinkSettings::LinkSettings(std::string_view key)
+    : LinkSettings(
+          [key = std::string(key)](std::string_view name) {
+            return platform::Current().Registry().Value(key, name);
+          },
+          "the key " + std::string(key)) {}
+
 std::string LinkSettings::Text(std::string_view name, std::string otherwise) const {
-  std::string text = platform::Current().Registry().Value(key_, name).value_or("");
+  std::string text = source_(name).value_or("");
   return text.empty() ? std::move(otherwise) : text;
 }
 
@@ -34,8 +41,8 @@ BusyPolicy LinkSettings::Busy() const {
 void LinkSettings::Refuse(std::string_view name, const std::string& text,
                           const std::string& right) const {
   throw platform::Failure(platform::ErrorNumber::InvalidArgument, "HartLinks.LinkSettings",
-                          "Setting \"" + std::string(name) + "\" of the key " + key_ + " is \"" +
-                              text + "\"; it has to be " + right + ".");
+                          "Setting \"" + std::string(name) + "\" of " + place_ + " is \"" + text +
+                              "\"; it has to be " + right + ".");
 }
 
 }  // namespace HartLinks

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <functional>
 #include <initializer_list>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -10,12 +12,20 @@
 
 namespace HartLinks {
 
-// The settings of one link class: a key of the thread's registry. Raises InvalidArgument naming
-// key, value and what would be right.
+// The settings of one link, by name. Raises InvalidArgument naming where they stand, the value and
+// what would be right.
 class LinkSettings {
  public:
-  explicit LinkSettings(std::string_view key) : key_(key) {}
+  // The value of that name; nothing when it is not set.
+  using Source = std::function<std::optional<std::string>(std::string_view name)>;
 
+  // Those of a link class: a key of the thread's registry.
+  explicit LinkSettings(std::string_view key);
+  // `place`: where they stand, for messages.
+  LinkSettings(Source source, std::string place)
+      : source_(std::move(source)), place_(std::move(place)) {}
+
+  const std::string& Place() const { return place_; }
   // The value, `otherwise` when it is absent or empty.
   std::string Text(std::string_view name, std::string otherwise) const;
   int Number(std::string_view name, int otherwise, int least, int most) const;
@@ -41,7 +51,8 @@ class LinkSettings {
   [[noreturn]] void Refuse(std::string_view name, const std::string& text,
                            const std::string& right) const;
 
-  std::string key_;
+  Source source_;
+  std::string place_;
 };
 
 }  // namespace HartLinks

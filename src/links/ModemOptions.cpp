@@ -18,13 +18,16 @@ bool IsPseudoTerminal(const std::string& port) {
 
 }  // namespace
 
-ModemOptions ModemOptionsFromSettings() {
-  const LinkSettings settings(kModemSettingsKey);
+ModemOptions ModemOptions::FromSettings() {
+  return From(LinkSettings(kModemSettingsKey));
+}
+
+ModemOptions ModemOptions::From(const LinkSettings& settings) {
   ModemOptions options;
   options.port = settings.Text("Port", "");
   if (options.port.empty()) {
     throw platform::Failure(platform::ErrorNumber::InvalidArgument, "HartLinks.ModemOptions",
-                            "Setting \"Port\" of the key " + std::string(kModemSettingsKey) +
+                            "Setting \"Port\" of " + settings.Place() +
                                 " is missing; it has to be the path of a serial port.");
   }
   options.baud = settings.Number("Baud", options.baud, 300, 115'200);

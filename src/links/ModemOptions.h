@@ -10,6 +10,8 @@
 
 namespace HartLinks {
 
+class LinkSettings;
+
 // Registry key of "HartModem.Link", read when a link is made.
 inline constexpr std::string_view kModemSettingsKey =
     "\\HKEY_LOCAL_MACHINE\\SOFTWARE\\Quillbridge\\HART\\Modem";
@@ -37,13 +39,14 @@ struct ModemOptions {
   // addition.
   platform::Milliseconds latency{0};
   BusyPolicy busy;
-};
 
-// From the registry: "Port", "Baud" (1200), "Parity" (odd, even, none), "Rts" (sending, untouched),
-// "Carrier" (ignore, watch), "Master" (primary, secondary), "Retries" (3), "CharacterTime"
-// (microseconds), "Latency" (milliseconds), "BusyAttempts", "BusyDelay". Raises InvalidArgument
-// naming key and value.
-ModemOptions ModemOptionsFromSettings();
+  // From the registry: "Port", "Baud" (1200), "Parity" (odd, even, none), "Rts" (sending,
+  // untouched), "Carrier" (ignore, watch), "Master" (primary, secondary), "Retries" (3),
+  // "CharacterTime" (microseconds), "Latency" (milliseconds), "BusyAttempts", "BusyDelay". Raises
+  // InvalidArgument naming key and value.
+  static ModemOptions FromSettings();
+  static ModemOptions From(const LinkSettings& settings);
+};
 
 // The time of a character that holds for these options.
 std::chrono::microseconds CharacterTimeOf(const ModemOptions& options);

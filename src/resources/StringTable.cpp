@@ -195,8 +195,10 @@ constexpr auto kTable = std::to_array<StringResource>({
      "|de|Unter der Adresse %{s1} antwortet kein Gerät. Prüfen Sie Speisung, Verdrahtung und "
      "Adresse."},
     {idErrNoDeviceReason,
-     "The device at address %{s1} cannot be reached: %{s2}"
-     "|de|Das Gerät unter der Adresse %{s1} ist nicht erreichbar: %{s2}"},
+     "The device at address %{s1} cannot be reached: %{s2}. Check the link's name, its cable or "
+     "network, and whether somebody else uses it."
+     "|de|Das Gerät unter der Adresse %{s1} ist nicht erreichbar: %{s2}. Prüfen Sie den Namen der "
+     "Verbindung, Kabel oder Netz, und ob jemand anders sie verwendet."},
     {idErrWrongDevice,
      "The wrong device is connected. The DTM is for %{s1}, connected is %{s2}. Connect the device "
      "that the DTM is for, or use the DTM for this one. Nothing is written to it."

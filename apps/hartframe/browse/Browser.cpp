@@ -100,9 +100,8 @@ std::string Browser::StatusLine() {
   const Options& options = online_.Settings();
   const Speech& say = online_.Say();
   const std::size_t pending = actions_->Pending();
-  const std::string link = options.link == LinkKind::Echo ? "echo"
-                           : options.deviceFile.empty()   ? "device"
-                                                          : options.deviceFile.filename().string();
+  const std::string link =
+      options.deviceFile.empty() ? LinkText(options) : options.deviceFile.filename().string();
   return " " +
          Joined({options.dtm, link, options.dataSetFile.filename().string(),
                  pending > 0 ? say(texts::kPendingCount, {std::to_string(pending)}) : "",

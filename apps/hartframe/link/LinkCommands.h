@@ -1,0 +1,15 @@
+#pragma once
+
+#include "hartframe/Console.h"
+#include "hartframe/Options.h"
+#include "hartframe/Report.h"
+#include "hartframe/Speech.h"
+
+namespace hartframe {
+
+// The commands that talk to devices without a DTM. Failures as those of the others; Cancelled after
+// Ctrl-C.
+ExitCode RunScan(const Options& options, Console& console, const Speech& say, Report& report);
+ExitCode RunRaw(const Options& options, const Speech& say, Report& report);
+
+}  // namespace hartframe

@@ -1,0 +1,61 @@
+#include "comm/ConnectionTexts.h"
+#include "comm/DeviceSearch.h"
+#include "hart/StatusBytes.h"
+#include "hartframe/link/DirectLink.h"
+#include "hartframe/link/LinkCommands.h"
+#include "hartframe/link/LinkTexts.h"
+
+namespace hartframe {
+
+namespace {
+
+namespace hart = ZAFHartTypes::hart;
+using ZAFHartTypes::Addressing;
+
+constexpr int kReadIdentity = 0;  // HART command 0, the one that a polling address does for
+
+[[noreturn]] void FailToReach(const DirectLink& link, const std::string& address,
+                              const Speech& say) {
+  const std::string text = ZAFHartLib::NoDeviceText(address, link.Way().LastError());
+  throw CommandFailure(ExitCode::Communication, say.Pick(text));
+}
+
+// The long address of the device at a polling address or of a tag.
+std::string LookUp(DirectLink& link, const DeviceAddress& address, const Speech& say) {
+  const ZAFHartLib::DeviceTarget target{address.addressing, address.polling, address.tag, ""};
+  ZAFHartLib::DeviceSearch search(target, "", 1);
+  while (const auto exchange = search.Next()) {
+    link.Send(exchange);
+    search.Take(*exchange);
+  }
+  if (!search.Found()) FailToReach(link, target.Text(), say);
+  return search.Found()->LongAddress();
+}
+
+ExitCode CodeOf(const RawReply& reply) {
+  if (hart::IsCommunicationError(reply.bytes[0])) return ExitCode::Communication;
+  return hart::IsCarriedOut(reply.bytes[0]) ? ExitCode::Ok : ExitCode::DeviceRefused;
+}
+
+}  // namespace
+
+ExitCode RunRaw(const Options& options, const Speech& say, Report& report) {
+  if (options.userLevel == ZAFHartTypes::UserLevel::Observer)
+    throw CommandFailure(ExitCode::NotAllowed, say(texts::kObserverRaw));
+  DirectLink link(options);
+  DirectLink::Request request{options.rawCommand, options.address.polling,
+                              options.address.longAddress, options.rawData};
+  const bool isPolled = options.address.addressing == Addressing::PollingAddress;
+  const bool isComplete =
+      !request.longAddress.empty() || (isPolled && options.rawCommand == kReadIdentity);
+  if (!isComplete) request.longAddress = LookUp(link, options.address, say);
+  const std::string address =
+      request.longAddress.empty() ? std::to_string(request.pollingAddress) : request.longAddress;
+  const auto bytes = link.Ask(request);
+  if (!bytes) FailToReach(link, address, say);
+  const RawReply reply{options.rawCommand, address, *bytes};
+  report.Reply(reply);
+  return CodeOf(reply);
+}
+
+}  // namespace hartframe

@@ -1,0 +1,264 @@
+// The frame application on a real link: the demo device behind a HART-IP server.
+#include <fstream>
+#include <optional>
+
+#include "hartframe/link/DeviceAddress.h"
+#include "hartframe/link/LinkName.h"
+#include "links/HartIpOptions.h"
+#include "links/ModemOptions.h"
+#include "platform/Failure.h"
+#include "platform/Sockets.h"
+#include "support/DeviceServer.h"
+#include "support/HartframeTest.h"
+
+namespace {
+
+using namespace support;
+using testing::AllOf;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::Not;
+using testing::StartsWith;
+
+constexpr const char* kLongAddress = "3A1012A4F7";
+
+class HartframeLink : public Hartframe {
+ protected:
+  HartframeLink() { Plug(); }
+
+  void Plug() { server_.emplace(device_, port_), port_ = server_->Port(); }
+  Arguments OverLink(Arguments arguments, const std::string& rest = "") const {
+    arguments.insert(arguments.end(),
+                     {"--link", server_->Link(rest + "?timeout=300&connecttimeout=500"),
+                      "--retries", "1", "--dtm", "SampleTemperature"});
+    return arguments;
+  }
+  Result Over(const Arguments& arguments, const std::string& rest = "") const {
+    return RunLine(OverLink(arguments, rest));
+  }
+  Json OverJson(Arguments arguments, int code = 0) const {
+    arguments.push_back("--json");
+    const Result result = Over(arguments);
+    EXPECT_EQ(result.code, code) << result.error;
+    return Json::parse(result.out);
+  }
+
+  std::uint16_t port_ = 0;
+  std::optional<DeviceServer> server_;
+};
+
+TEST_F(HartframeLink, CommandsWorkOverIt) {
+  const Result upload = Over({"upload"}, "/tcp");
+  EXPECT_EQ(upload.code, 0) << upload.error;
+  EXPECT_THAT(upload.out, HasSubstr("89 variables loaded from the device."));
+  EXPECT_THAT(Over({"info", "--address", "TT-4711"}).out, HasSubstr(kLongAddress));
+  EXPECT_EQ(Over({"write", "damping_value=3", "--address", kLongAddress}).code, 0);
+  EXPECT_THAT(TempFolder::Read(device_), HasSubstr("\ndamping_value=3\n"));
+  EXPECT_EQ(Over({"run", "loop_test", "--answer", "ok", "--answer", "20 mA", "--answer", "ok",
+                  "--answer", "End of test", "--answer", "ok"})
+                .code,
+            0);
+  const std::string set = (folder_ / "plant.dataset").string();
+  EXPECT_EQ(Over({"save", set}).code, 0);
+  EXPECT_EQ(Over({"pair", "tag=NEW", "--download", "--dataset", set}).code, 0);
+  EXPECT_EQ(Over({"compare", "tag", "--dataset", set, "--address", "NEW"}).code, 0);
+  EXPECT_EQ(Over({"watch", "tag", "--count", "1"}).code, 0);
+  EXPECT_THAT(Over({"menu", "temp/device/output"}).out, HasSubstr("Upper range value"));
+}
+
+TEST_F(HartframeLink, WhatAnUnpluggedDeviceDidNotGetIsWrittenLater) {
+  const std::string set = (folder_ / "plant.dataset").string();
+  server_->UnplugAt(22);
+  const Json cut = OverJson(
+      {"download", "message=ONE", "long_tag=Two", "final_assembly_number=3", "--dataset", set}, 2);
+  std::map<std::string, Json> writes;
+  for (const Json& write : cut["writes"]) writes[write["variable"]["name"]] = write;
+  EXPECT_EQ(writes["message"]["outcome"], "written");
+  EXPECT_EQ(writes["long_tag"]["outcome"], "noAnswer");
+  EXPECT_EQ(writes["long_tag"]["meant"], "Two");
+  EXPECT_EQ(writes["final_assembly_number"]["outcome"], "notAttempted");
+  EXPECT_EQ(cut["problems"].back()["code"], "noDevice");
+
+  server_.reset();
+  EXPECT_EQ(Over({"write", "--dataset", set}).code, 2) << "nobody there";
+  Plug();
+  const Result again = Over({"write", "--dataset", set});
+  EXPECT_THAT(again.out, AllOf(HasSubstr("Two "), HasSubstr("40 of 40 written to the device.")));
+  EXPECT_THAT(TempFolder::Read(device_),
+              AllOf(HasSubstr("\nlong_tag=Two\n"), HasSubstr("\nfinal_assembly_number=3\n")));
+}
+
+TEST_F(HartframeLink, ChangesAreKeptWhereTheUserSays) {
+  const std::string pending = (folder_ / "changes").string();
+  server_->UnplugAt(0);
+  EXPECT_THAT(Over({"write", "alarm_delay=9"}).out, HasSubstr("--pending FILE"));
+  EXPECT_EQ(Over({"write", "alarm_delay=9", "--pending", pending}).code, 2);
+  server_.reset();
+  Plug();
+  EXPECT_EQ(Over({"write", "--pending", pending}).code, 0);
+  EXPECT_THAT(TempFolder::Read(device_), HasSubstr("\nalarm_delay=9\n"));
+}
+
+TEST_F(HartframeLink, NothingIsWrittenToAnotherDevice) {
+  SetInDevice("device_type", "device_type=17");
+  server_.reset();
+  Plug();
+  const std::string pending = (folder_ / "changes").string();
+  const Json wrong = OverJson({"write", "tag=NEW", "--pending", pending}, 12);
+  EXPECT_EQ(wrong["result"], "wrongDevice");
+  EXPECT_THAT(wrong["problems"].back()["text"].get<std::string>(),
+              HasSubstr("The wrong device is connected."));
+  EXPECT_THAT(TempFolder::Read(device_), Not(HasSubstr("\ntag=NEW\n")));
+  EXPECT_THAT(TempFolder::Read(pending), HasSubstr("tag=NEW"));
+}
+
+TEST_F(HartframeLink, FaultsOfTheDeviceAreTold) {
+  server_->AddFault("response:7");
+  const Result refused = Over({"read", "tag"});
+  EXPECT_NE(refused.code, 0);
+  server_.reset();
+  Plug();
+  server_->AddFault("busy:3");
+  EXPECT_EQ(Over({"read", "tag", "--busy", "5"}).code, 0) << "asked again";
+  server_.reset();
+  const Result none = RunLine({"read", "tag", "--lang", "de", "--dtm", "SampleTemperature",
+                               "--link", "hartip://127.0.0.1:" + std::to_string(port_) + "/tcp"});
+  EXPECT_EQ(none.code, 2);
+  EXPECT_THAT(none.error, AllOf(HasSubstr("ist nicht erreichbar: 127.0.0.1:"),
+                                HasSubstr("Connection refused"), HasSubstr("Prüfen Sie")));
+  const Result port = RunLine({"scan", "--link", "modem:/dev/no-such-port"});
+  EXPECT_EQ(port.code, 2);
+  EXPECT_THAT(port.error, HasSubstr("/dev/no-such-port"));
+}
+
+TEST_F(HartframeLink, CtrlCEndsAWaitAtOnceAndKeepsWhatWasTyped) {
+  const auto silent = platform::UdpSocket::BindTo(*platform::NumericAddress("127.0.0.1", 0));
+  const std::string link =
+      "hartip://127.0.0.1:" + std::to_string(silent.LocalAddress().port) + "?connecttimeout=600000";
+  const std::string pending = (folder_ / "changes").string();
+  for (const auto& [command, sign] :
+       {std::pair{Arguments{"write", "alarm_delay=9", "--dtm", "SampleTemperature", "--trace", "1",
+                            "--pending", pending},
+                  "IDDKernel"},
+        std::pair{Arguments{"scan"}, "Looking for devices"}}) {
+    Arguments arguments = command;
+    arguments.insert(arguments.end(), {"--link", link});
+    ChildProgram program(Line(arguments), ChildProgram::Streams::Pipes);
+    ASSERT_TRUE(program.WaitFor(sign));
+    program.Interrupt();
+    EXPECT_EQ(program.Finish(), 130) << command[0];
+  }
+  EXPECT_THAT(TempFolder::Read(pending), HasSubstr("\nalarm_delay=9\n"));
+}
+
+TEST_F(HartframeLink, ScanTellsWhoAnswers) {
+  const Json scan = OverJson({"scan", "--to", "2"});
+  ASSERT_EQ(scan["devices"].size(), 1U);
+  const Json& device = scan["devices"][0];
+  EXPECT_EQ(device["pollingAddress"], 0);
+  EXPECT_EQ(device["longAddress"], kLongAddress);
+  EXPECT_EQ(device["tag"], "TT-4711");
+  EXPECT_EQ(device["deviceRevision"], 2);
+  const Result none = Over({"scan", "--from", "1", "--to", "2"});
+  EXPECT_EQ(none.code, 2);
+  EXPECT_THAT(none.out, StartsWith("0 devices found."));
+}
+
+TEST_F(HartframeLink, RawCommandsGoAsTheyAre) {
+  const Json identity = OverJson({"raw", "0"})["reply"];
+  EXPECT_EQ(identity["responseCode"], 0);
+  EXPECT_THAT(identity["data"].get<std::string>(), StartsWith("FEFA10"));
+  EXPECT_THAT(Over({"raw", "0x6", "05", "01", "--address", "TT-4711"}).out,
+              AllOf(HasSubstr(kLongAddress), HasSubstr("05")));
+  EXPECT_THAT(TempFolder::Read(device_), HasSubstr("\npolling_address=5\n"));
+  EXPECT_EQ(Over({"raw", "13", "--address", "5"}).code, 0);
+  EXPECT_EQ(Over({"raw", "13", "--address", "0"}).code, 2) << "nobody there any more";
+  EXPECT_EQ(OverJson({"raw", "999", "--address", kLongAddress}, 3)["reply"]["responseCode"], 64);
+  EXPECT_EQ(Over({"raw", "0", "0G"}).code, 1);
+  EXPECT_EQ(Over({"raw", "6", "01", "--user-level", "observer"}).code, 7);
+}
+
+TEST_F(HartframeLink, RecordsWhatGoesOverEveryLink) {
+  const std::string record = (folder_ / "x.pcap").string();
+  const std::string reply = "TT-4711 in Packed ASCII";
+  const std::string packed("\x51\x4B\x74\xDF\x1C\x60", 6);
+  EXPECT_EQ(Over({"read", "tag", "--pcap", record}).code, 0);
+  EXPECT_THAT(TempFolder::Read(record), HasSubstr(packed)) << reply;
+  server_.reset();
+  EXPECT_EQ(Run({"read", "tag", "--pcap", record}).code, 0);
+  EXPECT_THAT(TempFolder::Read(record), HasSubstr(packed)) << reply;
+  EXPECT_EQ(Run({"read", "tag", "--pcap", (folder_ / "none" / "x").string()}).code, 6);
+}
+
+// --- what the command line says ---
+
+std::string Settings(const std::string& text) {
+  std::string all;
+  try {
+    for (const auto& [name, value] : hartframe::LinkName::Parse(text).settings)
+      all += name + "=" + value + " ";
+  } catch (const platform::Failure& failure) {
+    return failure.Description();
+  }
+  return all;
+}
+
+TEST(HartframeLinkName, HasPlaceAndSettings) {
+  const struct {
+    const char* text;
+    const char* settings;  // or a part of what is wrong
+  } cases[] = {
+      {"hartip://plant", "host=plant "},
+      {"hartip://plant:50/tcp", "host=plant port=50 transport=tcp "},
+      {"hartip://[fe80::1%eth0]:7", "host=fe80::1%eth0 port=7 "},
+      {"hartip://[::1]/udp?Timeout=5&master=secondary", "host=::1 master=secondary timeout=5"},
+      {"modem:/dev/ttyUSB0?baud=2400", "baud=2400 port=/dev/ttyUSB0 "},
+      {"hartip://::1", "stands in brackets"},
+      {"hartip://[::1", "\"]\""},
+      {"hartip:///tcp", "host is missing"},
+      {"hartip://plant:", ":PORT"},
+      {"modem:", "serial port is missing"},
+      {"modem:COM3?baud", "SETTING=VALUE"},
+      {"modem:COM3?baud=1&Baud=2", "twice"},
+      {"tcp://plant", "a link is echo, device"},
+  };
+  for (const auto& item : cases) EXPECT_THAT(Settings(item.text), HasSubstr(item.settings));
+}
+
+TEST(HartframeLinkName, SettingsAreThoseOfTheLinkClass) {
+  using hartframe::LinkName;
+  using hartframe::ReadLinkOptions;
+  const auto modem = ReadLinkOptions<HartLinks::ModemOptions>(
+      LinkName::Parse("modem:/dev/ttyUSB0?master=secondary&rts=untouched&retries=1"));
+  EXPECT_FALSE(modem.primaryMaster);
+  EXPECT_EQ(modem.rts, HartLinks::RequestToSend::Untouched);
+  EXPECT_EQ(modem.retries, 1);
+  EXPECT_THROW(ReadLinkOptions<HartLinks::HartIpOptions>(LinkName::Parse("hartip://a?baud=1200")),
+               platform::Failure);
+}
+
+TEST(HartframeAddress, IsAPollingAddressATagOrALongAddress) {
+  const auto parsed = [](const std::string& text) -> std::string {
+    using ZAFHartTypes::Addressing;
+    try {
+      const auto address = hartframe::DeviceAddress::Parse(text);
+      if (address.addressing == Addressing::Tag) return "tag " + address.tag;
+      if (address.addressing == Addressing::LongAddress) return "long " + address.longAddress;
+      return "polling " + std::to_string(address.polling);
+    } catch (const platform::Failure&) {
+      return "none";
+    }
+  };
+  EXPECT_EQ(parsed("63"), "polling 63");
+  EXPECT_EQ(parsed("64"), "none");
+  EXPECT_EQ(parsed("99999999999999999999"), "none");
+  EXPECT_EQ(parsed("tag:64"), "tag 64");
+  EXPECT_EQ(parsed("26061a2b3c"), "long 26061A2B3C");
+  EXPECT_EQ(parsed("1234567890"), "long 1234567890");
+  EXPECT_EQ(parsed("TT-4711"), "tag TT-4711");
+  EXPECT_EQ(parsed("Ä" + std::string(31, 'x')), "tag Ä" + std::string(31, 'x'));
+  EXPECT_EQ(parsed(std::string(33, 'x')), "none");
+  EXPECT_EQ(parsed(""), "none");
+}
+
+}  // namespace
