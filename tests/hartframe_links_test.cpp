@@ -1,7 +1,7 @@
 // The frame application on a real link: the demo device behind a HART-IP server.
-#include <fstream>
 #include <optional>
 
+#include "hart/HexText.h"
 #include "hartframe/link/DeviceAddress.h"
 #include "hartframe/link/LinkName.h"
 #include "links/HartIpOptions.h"
@@ -13,6 +13,7 @@
 
 namespace {
 
+namespace hart = ZAFHartTypes::hart;
 using namespace support;
 using testing::AllOf;
 using testing::ElementsAre;
@@ -26,7 +27,11 @@ class HartframeLink : public Hartframe {
  protected:
   HartframeLink() { Plug(); }
 
-  void Plug() { server_.emplace(device_, port_), port_ = server_->Port(); }
+  void Plug(const std::string& fault = "") {
+    server_.reset();
+    server_.emplace(device_, port_, fault);
+    port_ = server_->Port();
+  }
   Arguments OverLink(Arguments arguments, const std::string& rest = "") const {
     arguments.insert(arguments.end(),
                      {"--link", server_->Link(rest + "?timeout=300&connecttimeout=500"),
@@ -93,7 +98,6 @@ TEST_F(HartframeLink, ChangesAreKeptWhereTheUserSays) {
   server_->UnplugAt(0);
   EXPECT_THAT(Over({"write", "alarm_delay=9"}).out, HasSubstr("--pending FILE"));
   EXPECT_EQ(Over({"write", "alarm_delay=9", "--pending", pending}).code, 2);
-  server_.reset();
   Plug();
   EXPECT_EQ(Over({"write", "--pending", pending}).code, 0);
   EXPECT_THAT(TempFolder::Read(device_), HasSubstr("\nalarm_delay=9\n"));
@@ -101,7 +105,6 @@ TEST_F(HartframeLink, ChangesAreKeptWhereTheUserSays) {
 
 TEST_F(HartframeLink, NothingIsWrittenToAnotherDevice) {
   SetInDevice("device_type", "device_type=17");
-  server_.reset();
   Plug();
   const std::string pending = (folder_ / "changes").string();
   const Json wrong = OverJson({"write", "tag=NEW", "--pending", pending}, 12);
@@ -113,16 +116,14 @@ TEST_F(HartframeLink, NothingIsWrittenToAnotherDevice) {
 }
 
 TEST_F(HartframeLink, FaultsOfTheDeviceAreTold) {
-  server_->AddFault("response:7");
-  const Result refused = Over({"read", "tag"});
-  EXPECT_NE(refused.code, 0);
-  server_.reset();
-  Plug();
-  server_->AddFault("busy:3");
+  Plug("response:7:2");  // of finding the device, and of reading
+  EXPECT_EQ(Over({"read", "tag"}).code, 2) << "whoever refuses to say who he is, is nobody";
+  Plug("busy:3");
   EXPECT_EQ(Over({"read", "tag", "--busy", "5"}).code, 0) << "asked again";
   server_.reset();
+  const std::string nobody = "127.0.0.1:" + std::to_string(port_);
   const Result none = RunLine({"read", "tag", "--lang", "de", "--dtm", "SampleTemperature",
-                               "--link", "hartip://127.0.0.1:" + std::to_string(port_) + "/tcp"});
+                               "--link", "hartip://" + nobody + "/tcp?connecttimeout=300"});
   EXPECT_EQ(none.code, 2);
   EXPECT_THAT(none.error, AllOf(HasSubstr("ist nicht erreichbar: 127.0.0.1:"),
                                 HasSubstr("Connection refused"), HasSubstr("Prüfen Sie")));
@@ -162,6 +163,73 @@ TEST_F(HartframeLink, ScanTellsWhoAnswers) {
   const Result none = Over({"scan", "--from", "1", "--to", "2"});
   EXPECT_EQ(none.code, 2);
   EXPECT_THAT(none.out, StartsWith("0 devices found."));
+}
+
+// At address 0 a gateway that has one device behind it, at address 1 somebody who makes no sense.
+std::optional<HartLinkSim::WireReply> AnswerAsGateway(const hart::DecodedFrame& request) {
+  const bool isLong = request.frame.address.isLong;
+  const std::string address = hart::ToHex(request.frame.address.bytes);
+  std::string reply;
+  switch (request.frame.command) {
+    case 0:
+      if (address.starts_with("00"))
+        reply =
+            "0000"
+            "FE3A10050701010804000001";
+      if (address.starts_with("01")) reply = "0000FE";
+      break;
+    case 13:
+      if (address == "2606ABCDEF")
+        reply =
+            "0000"
+            "514B74DF1C60"
+            "000000000000000000000000"
+            "010101";
+      break;
+    case 74:
+      reply =
+          "0000010108"
+          "0002"
+          "020303";
+      break;
+    case 84:
+      reply =
+          "0000"
+          "0001"
+          "0000"
+          "0026"
+          "E606"
+          "ABCDEF"
+          "07"
+          "41" +
+          std::string(62, '0') + "03";
+      break;
+    default:
+      reply = "4000";
+  }
+  if (reply.empty() || (request.frame.command == 0 && isLong)) return std::nullopt;
+  return HartLinkSim::WireReply{
+      hart::EncodeFrame(hart::ReplyFrame(request.frame, hart::FromHex(reply))), {}};
+}
+
+TEST_F(HartframeLink, ScanLooksBehindAGateway) {
+  const ServerThread gateway([](const ServerThread::Serve& serve) { serve(AnswerAsGateway); }, 0);
+  const Result result =
+      RunLine({"scan", "--to", "2", "--json", "--link", gateway.Link("?timeout=300")});
+  EXPECT_EQ(result.code, 2) << "at address 1 is something wrong";
+  const Json scan = Json::parse(result.out);
+  ASSERT_EQ(scan["devices"].size(), 2U) << result.out;
+  EXPECT_EQ(scan["devices"][0]["longAddress"], "3A10000001");
+  EXPECT_EQ(scan["devices"][0]["pollingAddress"], 0);
+  const Json& behind = scan["devices"][1];
+  EXPECT_TRUE(behind["pollingAddress"].is_null());
+  EXPECT_EQ(behind["longAddress"], "2606ABCDEF");
+  EXPECT_EQ(behind["manufacturer"], 0x26);
+  EXPECT_EQ(behind["deviceRevision"], 3);
+  EXPECT_EQ(behind["longTag"], "A");
+  EXPECT_EQ(behind["tag"], "TT-4711");
+  ASSERT_EQ(scan["problems"].size(), 1U);
+  EXPECT_THAT(scan["problems"][0]["text"].get<std::string>(), StartsWith("Polling address 1: "));
 }
 
 TEST_F(HartframeLink, RawCommandsGoAsTheyAre) {
