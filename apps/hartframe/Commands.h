@@ -19,5 +19,6 @@ ExitCode RunMethod(Session& session);
 ExitCode RunSave(Session& session);
 ExitCode RunPair(Session& online);
 ExitCode RunCompare(Session& online);
+ExitCode RunServe(Session& session);
 
 }  // namespace hartframe

@@ -30,15 +30,6 @@ std::shared_ptr<EmulatedDevice> MakeDevice(const std::filesystem::path& file) {
   return device;
 }
 
-void AddFaults(SimulatedLink& link, const Options& options) {
-  EndingWith(ExitCode::Usage, [&] {
-    for (const std::string& fault : options.faults) link.LinkFaults().Add(fault);
-  });
-  if (options.latencyMilliseconds > 0) {
-    link.LinkFaults().Add({HartLinkSim::FaultKind::Latency, options.latencyMilliseconds, {}});
-  }
-}
-
 // The link's name with what else the command line says about it.
 LinkName CompleteName(const Options& options) {
   LinkName name = *options.givenLink;
@@ -53,6 +44,15 @@ std::optional<EmulatedLink::Reply> EmulatedLink::Answer(const ZAFHartTypes::Exch
   auto reply = DeviceLink::Answer(exchange);
   if (!Device()->LastError().empty()) fileErrors_.insert(Device()->LastError());
   return reply;
+}
+
+void AddFaults(HartLinkSim::Faults& faults, const Options& options) {
+  EndingWith(ExitCode::Usage, [&] {
+    for (const std::string& fault : options.faults) faults.Add(fault);
+  });
+  if (options.latencyMilliseconds > 0) {
+    faults.Add({HartLinkSim::FaultKind::Latency, options.latencyMilliseconds, {}});
+  }
 }
 
 Connection::Connection(const Options& options) {
@@ -74,7 +74,7 @@ void Connection::UseEmulation(const Options& options) {
     link = std::make_shared<HartLinkSim::EchoLink>();
   else
     link = emulated_ = std::make_shared<EmulatedLink>(MakeDevice(options.deviceFile));
-  AddFaults(*link, options);
+  if (options.command != CommandKind::Serve) AddFaults(link->LinkFaults(), options);
   link_ = link;
 }
 
@@ -89,6 +89,10 @@ void Connection::UseRealLink(const Options& options) {
     hartIp.observer = record_;
     return std::make_shared<HartLinks::HartIpLink>(hartIp);
   });
+}
+
+std::shared_ptr<EmulatedDevice> Connection::Device() const {
+  return emulated_ ? emulated_->Device() : nullptr;
 }
 
 std::string Connection::LastError() const {

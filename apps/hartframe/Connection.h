@@ -24,7 +24,11 @@ class EmulatedLink : public HartLinkSim::DeviceLink {
   std::set<std::string> fileErrors_;
 };
 
-// The way to the device, and what stands on it.
+// The faults of the command line. CommandFailure (Usage) for one that is none.
+void AddFaults(HartLinkSim::Faults& faults, const Options& options);
+
+// The way to the device, and what stands on it. Of a device that is served the faults are those of
+// the wire, and not this link's.
 class Connection {
  public:
   Connection() = default;
@@ -37,6 +41,8 @@ class Connection {
   std::string LastError() const;
   // What the emulated device could not do with its file, and why the record is not complete.
   std::set<std::string> FileErrors() const;
+  // The emulated device behind the link; nothing for other links.
+  std::shared_ptr<HartLinkSim::EmulatedDevice> Device() const;
 
  private:
   void UseEmulation(const Options& options);

@@ -110,9 +110,9 @@ Json MenuRowsJson(std::span<const MenuRow> rows) {
 constexpr int kOneLine = -1;
 constexpr const char* kOutcomes[] = {"written",     "adjusted", "refused",
                                      "notAccepted", "noAnswer", "notAttempted"};
-constexpr const char* kCommands[] = {"upload",  "download", "write", "read",        "list", "watch",
-                                     "info",    "menu",     "run",   "browse",      "save", "pair",
-                                     "compare", "scan",     "raw",   "probe-plugin"};
+constexpr const char* kCommands[] = {
+    "upload", "download", "write", "read",    "list", "watch", "info",  "menu",        "run",
+    "browse", "save",     "pair",  "compare", "scan", "raw",   "serve", "probe-plugin"};
 
 }  // namespace
 
@@ -154,6 +154,13 @@ void JsonReport::Variables(std::span<const VariableRow> rows) {
 
 void JsonReport::Update(const VariableRow& row) {
   console_.Out(Dumped({{"update", RowJson(row)}}, kOneLine));
+  indent_ = kOneLine;
+}
+
+void JsonReport::Event(std::string_view kind, const std::string&, std::span<const Fact> facts) {
+  Json json = Json::object();
+  for (const Fact& fact : facts) json[fact.key] = fact.value;
+  console_.Out(Dumped({{std::string(kind), std::move(json)}}, kOneLine));
   indent_ = kOneLine;
 }
 

@@ -22,6 +22,7 @@ class JsonReport : public Report {
   void Problem(std::string_view code, const std::string& sentence) override;
   void Variables(std::span<const VariableRow> rows) override;
   void Update(const VariableRow& row) override;
+  void Event(std::string_view kind, const std::string& line, std::span<const Fact> facts) override;
   void WriteResults(std::span<const WriteResult> results) override;
   void Comparison(std::span<const ComparedRow> rows) override;
   void Pending(std::span<const VariableRow> rows) override;

@@ -178,6 +178,7 @@ void Complete(Options& options) {
   for (fs::path& folder : options.pluginPath) folder = fs::absolute(folder);
   options.pluginPath.push_back((ProgramFolder() / "../lib/dtms").lexically_normal());
   CompleteLink(options);
+  if (options.command == CommandKind::Serve) CompleteServe(options);
   const bool needsDtm =
       options.command != CommandKind::ProbePlugin && !IsWithoutDtm(options.command);
   if (options.dtm.empty() && needsDtm) {
@@ -229,6 +230,7 @@ Options ParseCommandLine(int argc, char** argv) {
   AddCommands(adder, options);
   AddDataSetCommands(adder, options);
   AddLinkCommands(adder, options);
+  AddServeCommand(adder, options);
   try {
     app.parse(argc, argv);
     Complete(options);

@@ -7,6 +7,7 @@
 
 #include "hartframe/link/DeviceAddress.h"
 #include "hartframe/link/LinkName.h"
+#include "hartframe/serve/ServeOptions.h"
 #include "interfaces/Codes.h"
 
 namespace hartframe {
@@ -27,6 +28,7 @@ enum class CommandKind {
   Compare,
   Scan,
   Raw,
+  Serve,
   ProbePlugin
 };
 
@@ -81,6 +83,8 @@ struct Options {
   bool yes = false;                  // run: what only informs needs no answer
   int updates = 0;                   // of watch; 0: until Ctrl-C
   int intervalSeconds = 1;           // of watch
+
+  ServeOptions serve;
 
   std::filesystem::path plugin;  // to probe
 };

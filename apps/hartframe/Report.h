@@ -47,6 +47,10 @@ class Report {
   virtual void Variables(std::span<const VariableRow> rows) = 0;
   // One update of a watched variable.
   virtual void Update(const VariableRow& row) = 0;
+  // What happens while the run goes on, told at once: a line for people, of a kind and with facts
+  // for machines. The labels of the facts are not used.
+  virtual void Event(std::string_view kind, const std::string& line,
+                     std::span<const Fact> facts) = 0;
   virtual void WriteResults(std::span<const WriteResult> results) = 0;
   // Both sides of a pair, variable by variable.
   virtual void Comparison(std::span<const ComparedRow> rows) = 0;

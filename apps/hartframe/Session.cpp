@@ -221,6 +221,10 @@ bool Session::Run(const std::function<void()>& operation,
   return Run(operation);
 }
 
+std::shared_ptr<HartLinkSim::EmulatedDevice> Session::Device() const {
+  return connection_.Device();
+}
+
 ExitCode Session::TellFileErrors() {
   const std::set<std::string> errors = connection_.FileErrors();
   for (const std::string& error : errors) report_.Problem(NameOf(ExitCode::FileBroken), error);

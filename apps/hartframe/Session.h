@@ -53,6 +53,8 @@ class Session {
   const std::filesystem::path& PluginFile() const { return plugin_; }
 
   ZAFHartLib::CDDComponents& Components() { return *components_; }
+  // The emulated device behind the link; nothing for other links.
+  std::shared_ptr<HartLinkSim::EmulatedDevice> Device() const;
   // Each raises ObjectNotSet when the instance has been torn down.
   ZAFHartTypes::IDDKernel& Kernel();
   ZAFHartTypes::IDDWorkerDB& Database();

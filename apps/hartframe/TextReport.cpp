@@ -113,6 +113,10 @@ void TextReport::Update(const VariableRow& row) {
   console_.Out(line);
 }
 
+void TextReport::Event(std::string_view, const std::string& line, std::span<const Fact>) {
+  console_.Out(line);
+}
+
 void TextReport::WriteResults(std::span<const WriteResult> results) {
   std::vector<std::vector<std::string>> cells;
   for (const WriteResult& result : results)

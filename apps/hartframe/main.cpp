@@ -39,6 +39,8 @@ ExitCode RunCommand(Session& session) {
       return RunPair(session);
     case CommandKind::Compare:
       return RunCompare(session);
+    case CommandKind::Serve:
+      return RunServe(session);
     case CommandKind::Info:
     case CommandKind::Scan:
     case CommandKind::Raw:

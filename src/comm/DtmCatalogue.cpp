@@ -25,6 +25,29 @@ void Bind(DataItemList& items, IDDKernel& kernel) {
   }
 }
 
+// Calls visit(item, value) for each variable that was sent.
+template <typename Visit>
+void VisitSent(const Transaction& transaction, hart::Bytes request, Visit visit) {
+  const ItemLayout layout = HartLinkSim::LayOut(transaction.Request());
+  Frame frame;
+  frame.SetBytes({request.begin(), request.end()});
+  std::size_t index = 0;
+  for (const DataItem& item : transaction.Request()) {
+    const auto& place = layout[index++];
+    if (!item.IsVariable()) continue;
+    if (const auto sent = HartLinkSim::ReadItem(frame, item, place)) visit(item, *sent);
+  }
+}
+
+// Each index is one of its array.
+bool SelectsWhatThereIs(const Transaction& transaction, hart::Bytes request) {
+  bool isThere = true;
+  VisitSent(transaction, request, [&](const DataItem& item, const Variant& sent) {
+    isThere = isThere && (!item.IsIndex() || item.Variable()->CheckValue(sent, true));
+  });
+  return isThere;
+}
+
 }  // namespace
 
 DtmCatalogue::DtmCatalogue(const std::shared_ptr<ZAFHartTypes::IDDComponents>& components) {
@@ -38,10 +61,11 @@ DtmCatalogue::DtmCatalogue(const std::shared_ptr<ZAFHartTypes::IDDComponents>& c
 
 HartLinkSim::FoundCommand DtmCatalogue::Find(std::uint16_t number, hart::Bytes request) {
   const auto found = commands_.find(number);
-  if (found == commands_.end() || !model_.Get()) return {};
+  if (found == commands_.end()) return {};
   auto command = Bound(found->second);
   if (!command) return {};
   auto transaction = HartLinkSim::ChooseTransaction(command->Transactions(), request);
+  if (transaction && !SelectsWhatThereIs(*transaction, request)) return {true, nullptr, ""};
   if (transaction && Store(*transaction, request, Part::Selectors)) {
     command = Bound(found->second);
     if (!command) return {};
@@ -63,24 +87,17 @@ std::shared_ptr<Command> DtmCatalogue::Bound(const Definition& definition) const
 }
 
 void DtmCatalogue::OnCarriedOut(const Transaction& transaction, hart::Bytes request) {
-  if (model_.Get()) Store(transaction, request, Part::All);
+  Store(transaction, request, Part::All);
 }
 
 bool DtmCatalogue::Store(const Transaction& transaction, hart::Bytes request, Part part) const {
-  const ItemLayout layout = HartLinkSim::LayOut(transaction.Request());
-  Frame frame;
-  frame.SetBytes({request.begin(), request.end()});
   bool changed = false;
-  std::size_t index = 0;
-  for (const DataItem& item : transaction.Request()) {
-    const auto& place = layout[index++];
+  VisitSent(transaction, request, [&](const DataItem& item, const Variant& sent) {
     const bool selects = item.IsIndex() || item.IsInfo();
-    if (!item.IsVariable() || (part == Part::Selectors && !selects)) continue;
-    const auto sent = HartLinkSim::ReadItem(frame, item, place);
-    if (!sent || *sent == item.Value()) continue;
-    StoreValue(item.VariableDefinition(), *sent);
+    if ((part == Part::Selectors && !selects) || sent == item.Value()) return;
+    StoreValue(item.VariableDefinition(), sent);
     changed = true;
-  }
+  });
   return changed;
 }
 

@@ -11,8 +11,8 @@ namespace ZAFHartLib {
 
 // The commands of a DTM instance for a device that is emulated on the wire. What a request selects
 // (INDEX and INFO items) and what the device has taken is stored in the instance, so that layouts
-// follow from it; live values go on moving there. Finds nothing once the instance has been torn
-// down.
+// follow from it; live values go on moving there. Raises ObjectNotSet once the instance has been
+// torn down.
 class DtmCatalogue : public HartLinkSim::CommandCatalogue {
  public:
   explicit DtmCatalogue(const std::shared_ptr<ZAFHartTypes::IDDComponents>& components);

@@ -54,7 +54,7 @@ void HartIpServer::Bind() {
   for (int attempt = 1; !TryBind(); ++attempt) {
     if (attempt == kPortAttempts) {
       throw Failure(platform::ErrorNumber::DeviceIo, "HartLinks.HartIpServer",
-                    "No port of " + options_.local.Text() + " is free for both UDP and TCP.");
+                    "No port of " + options_.local.Text() + " is free for both UDP and TCP");
     }
   }
 }

@@ -11,11 +11,6 @@ namespace {
 // A start bit, eight data bits, parity, a stop bit.
 constexpr int kBitsOfCharacter = 11;
 
-bool IsPseudoTerminal(const std::string& port) {
-  std::error_code ignored;
-  return std::filesystem::weakly_canonical(port, ignored).string().starts_with("/dev/pts/");
-}
-
 }  // namespace
 
 ModemOptions ModemOptions::FromSettings() {
@@ -48,6 +43,11 @@ ModemOptions ModemOptions::From(const LinkSettings& settings) {
   options.latency = platform::Milliseconds{settings.Number("Latency", 0, 0, 10'000)};
   options.busy = settings.Busy();
   return options;
+}
+
+bool IsPseudoTerminal(const std::string& port) {
+  std::error_code ignored;
+  return std::filesystem::weakly_canonical(port, ignored).string().starts_with("/dev/pts/");
 }
 
 std::chrono::microseconds CharacterTimeOf(const ModemOptions& options) {

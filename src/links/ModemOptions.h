@@ -48,6 +48,9 @@ struct ModemOptions {
   static ModemOptions From(const LinkSettings& settings);
 };
 
+// The port is one, or a link to one.
+bool IsPseudoTerminal(const std::string& port);
+
 // The time of a character that holds for these options.
 std::chrono::microseconds CharacterTimeOf(const ModemOptions& options);
 

@@ -113,7 +113,8 @@ void SerialPort::Configure() {
   }
   termios settings{};
   if (tcgetattr(descriptor_, &settings) != 0) RaiseSystemError(SystemText(errno));
-  MakeRaw(settings, options_.parity);
+  // A pseudo terminal has no parity, and refuses to change nothing else.
+  MakeRaw(settings, IsPseudoTerminal(options_.port) ? Parity::None : options_.parity);
   cfsetispeed(&settings, speed->second);
   cfsetospeed(&settings, speed->second);
   if (tcsetattr(descriptor_, TCSANOW, &settings) != 0) RaiseSystemError(SystemText(errno));
