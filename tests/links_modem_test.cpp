@@ -35,8 +35,10 @@ TEST(HartLine, EndsOfARequest) {
   } cases[] = {
       {"answered", {kReply, done}},
       {"echo first", {"< FF FF 02 80 00 00 *", kReply, done}},
-      {"noise first", {"< 06 FF 80 FF FF 06 11", kReply, "+ 303", done}},
+      {"noise first", {"< 06 FF 80 FF FF 06 11", kReply, "+ 74", done}},
       {"late but begun in time", {"+ 302", "< FF FF 06 80", "+ 70", "< 00 02 00 00 84", done}},
+      {"received while the program was held up", {"held 400 FF FF 06 80 00 02 00 00 84", done}},
+      {"half of it then", {"< FF FF 06 80", "held 400 00 02 00 00 84", done}},
       {"wrong check byte, again",
        {"< FF FF 06 80 00 02 00 00 85", "+ 303", kPoll, "sent", kReply, done}},
       {"byte with an error, again",
@@ -72,6 +74,7 @@ TEST(HartLine, SharesTheBusWithAnotherMasterAndBurstDevices) {
   } cases[] = {
       {"the other master asks, is answered, and leaves the bus",
        {"+ 50", "< FF FF 02 00 03 00 *", "+ 250", "< FF FF 06 00 03 02 00 00 *", kPoll}},
+      {"the other master looks for a device", {"< FF FF 02 00 00 00 *", "+ 303", kPoll}},
       {"the other master asks in vain", {"+ 50", "< FF FF 02 00 03 00 *", "+ 303", kPoll}},
       {"a burst for the other master gives the bus", {burst, "burst 010003020000 *", kPoll}},
       {"one for this master leaves it to the other",
@@ -97,6 +100,16 @@ TEST(HartLine, SharesTheBusWithAnotherMasterAndBurstDevices) {
                 {"= 1 0 no reply The line at line is never free: another master, a device "
                  "in burst mode or noise keeps it busy."});
   test_support::ModemScript(Options()).Run(babble);
+}
+
+TEST(HartLine, NoiseKeepsNoRequestForever) {
+  Script noise;
+  for (int i = 0; i < 259; ++i) noise.insert(noise.end(), {"+ 50", "< 55"});
+  // 2934 ms, with the longest of replies, and 10 s for a free bus, seen RT2 after a byte.
+  noise.insert(noise.end(), {"+ 24",
+                             "= 1 0 no reply The line at line is never free: another master, a "
+                             "device in burst mode or noise keeps it busy."});
+  test_support::ModemScript(Options()).Run(Begun(noise));
 }
 
 TEST(HartLine, LinksTakeTurns) {

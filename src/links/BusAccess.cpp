@@ -34,6 +34,12 @@ Milliseconds BusTimes::Reply(std::size_t requestSize) const {
   return latency_ + std::max(takeIdle, at1200Baud - Characters(requestSize));
 }
 
+Milliseconds BusTimes::ReplyEnd(std::size_t requestSize) const {
+  constexpr std::size_t longest = hart::kMaxPreambles + hart::kMaxFrameSize;
+  return Reply(requestSize) +
+         std::chrono::ceil<Milliseconds>(std::max(character, kCharacterAt1200Baud) * longest);
+}
+
 void BusAccess::HeardByte(Milliseconds now) {
   free_ = std::max(free_, now + times_.leaveToOther);
 }

@@ -17,6 +17,8 @@ struct BusTimes {
   // latest: RT1. From the request's beginning on it is never less than at 1200 baud, because what
   // answers behind a pseudo terminal may have such a line behind it.
   platform::Milliseconds Reply(std::size_t requestSize) const;
+  // From there until the longest reply has ended: what still comes then is noise.
+  platform::Milliseconds ReplyEnd(std::size_t requestSize) const;
 
   Microseconds character;
   // RT1: silence after which a master may take a bus that it knows nothing of. 33 characters for

@@ -140,11 +140,13 @@ void HartLine::OnSent() {
   if (!current_) return GoOn();
   phase_ = Phase::AwaitingReply;
   replyUntil_ = now + times_.Reply(sentSize_);
+  replyEnd_ = now + times_.ReplyEnd(sentSize_);
   AwaitReply();
 }
 
 void HartLine::AwaitReply() {
-  const Milliseconds until = std::max(replyUntil_, lastByte_ + times_.frameGap);
+  const Milliseconds until =
+      std::min(std::max(replyUntil_, lastByte_ + times_.frameGap), replyEnd_);
   if (const Milliseconds now = Now(); now < until) return After(until - now, &HartLine::AwaitReply);
   // What looked like a frame that goes on may have hidden the reply.
   for (const hart::DecodedFrame& found : decoder_.Gap()) Hear(found);
@@ -152,12 +154,9 @@ void HartLine::AwaitReply() {
 }
 
 void HartLine::OnByte(std::uint8_t byte, bool faulty) {
-  const Milliseconds now = Now();
-  if (now - lastByte_ > times_.frameGap) {
-    for (const hart::DecodedFrame& found : decoder_.Gap()) Hear(found);
-  }
-  lastByte_ = now;
-  access_.HeardByte(now);
+  lastByte_ = Now();
+  access_.HeardByte(lastByte_);
+  if (!silence_.IsActive()) Arm(silence_, times_.frameGap, &HartLine::EndFrameInSilence);
   const auto found =
       faulty ? decoder_.ReceiveFaulty(byte) : decoder_.Receive(hart::Bytes(&byte, 1));
   for (const hart::DecodedFrame& decoded : found) Hear(decoded);
@@ -165,6 +164,12 @@ void HartLine::OnByte(std::uint8_t byte, bool faulty) {
   if (!found.empty() && phase_ == Phase::WaitingForBus && current_) {
     After(Milliseconds{0}, &HartLine::WaitForBus);
   }
+}
+
+void HartLine::EndFrameInSilence() {
+  const Milliseconds left = lastByte_ + times_.frameGap - Now();
+  if (left > Milliseconds{0}) return Arm(silence_, left, &HartLine::EndFrameInSilence);
+  for (const hart::DecodedFrame& found : decoder_.Gap()) Hear(found);
 }
 
 void HartLine::Hear(const hart::DecodedFrame& decoded) {
@@ -235,8 +240,12 @@ void HartLine::SetRequestToSend(bool on) {
   if (options_.rts == RequestToSend::WhileSending) channel_->SetRequestToSend(on);
 }
 
-void HartLine::After(Milliseconds delay, void (HartLine::*step)()) {
-  step_ = platform::Current().Loop().StartOnce(delay, [this, step] { (this->*step)(); });
+// The step is taken in the event after the timer's, so that what the port has received is heard
+// first: a program that was held up elsewhere would take its own absence for silence on the line.
+void HartLine::Arm(platform::Subscription& timer, Milliseconds delay, Step step) {
+  timer = platform::Current().Loop().StartOnce(delay, [this, &timer, step] {
+    timer = platform::Current().Loop().Post([this, step] { (this->*step)(); });
+  });
 }
 
 }  // namespace HartLinks

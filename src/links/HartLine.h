@@ -39,6 +39,7 @@ class HartLine : public FrameCarrier, private ByteChannel::Listener {
   void SetBurstObserver(BurstObserver observer) { onBurst_ = std::move(observer); }
 
  private:
+  using Step = void (HartLine::*)();
   enum class Phase : std::uint8_t { Idle, WaitingForBus, Sending, AwaitingReply };
 
   void OnByte(std::uint8_t byte, bool faulty) override;
@@ -53,13 +54,15 @@ class HartLine : public FrameCarrier, private ByteChannel::Listener {
   void OfferBurst(const ZAFHartTypes::hart::LinkFrame& frame);
   void TakeReply(const ZAFHartTypes::hart::LinkFrame& frame);
   void AwaitReply();
+  void EndFrameInSilence();
   void TryAgain();
   void EndCurrent(FrameEnd end);
   void GoOn();
   bool IsOwnEcho(const ZAFHartTypes::hart::LinkFrame& frame) const;
   bool IsAwaited(const ZAFHartTypes::hart::LinkFrame& frame) const;
   void SetRequestToSend(bool on);
-  void After(platform::Milliseconds delay, void (HartLine::*step)());
+  void After(platform::Milliseconds delay, Step step) { Arm(step_, delay, step); }
+  void Arm(platform::Subscription& timer, platform::Milliseconds delay, Step step);
 
   ModemOptions options_;
   BusTimes times_;
@@ -79,8 +82,10 @@ class HartLine : public FrameCarrier, private ByteChannel::Listener {
   int attempt_ = 0;                                                              // from 0
   ZAFHartTypes::hart::FrameFault fault_ = ZAFHartTypes::hart::FrameFault::None;  // last one met
   platform::Milliseconds giveUpBus_{0};
-  platform::Milliseconds replyUntil_{0};
+  platform::Milliseconds replyUntil_{0};  // its first byte
+  platform::Milliseconds replyEnd_{0};
   platform::Milliseconds lastByte_{0};
+  platform::Subscription silence_;  // after the last byte is waited for
 };
 
 }  // namespace HartLinks

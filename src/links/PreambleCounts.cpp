@@ -19,9 +19,10 @@ constexpr std::size_t kIdentitySize = 12;
 
 bool HasIdentity(const hart::LinkFrame& reply) {
   constexpr std::uint16_t commands[] = {0, 11, 21, 73, 75};
-  return std::ranges::find(commands, reply.CommandNumber()) != std::end(commands) &&
-         !hart::IsCommunicationError(reply.data[0]) &&
+  return reply.type != hart::FrameType::Request &&
+         std::ranges::find(commands, reply.CommandNumber()) != std::end(commands) &&
          reply.data.size() >= hart::kStatusSize + kIdentitySize &&
+         !hart::IsCommunicationError(reply.data[0]) &&
          reply.data[hart::kStatusSize] == hart::kExpansionCode;
 }
 

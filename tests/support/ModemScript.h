@@ -17,7 +17,8 @@ namespace hart = ZAFHartTypes::hart;
 
 // A modem's line that the test plays, with a clock that stands still. Steps that the test takes:
 //   "ask LINK COMMAND [ADDRESS [DATA]]", "cancel LINK COMMAND", "sent", "< BYTES" ("~": received
-//   with an error), "broken", "unplugged" (opening fails), "plugged", "+ MILLISECONDS"
+//   with an error), "broken", "unplugged" (opening fails), "plugged", "+ MILLISECONDS",
+//   "held MILLISECONDS BYTES" (the program was busy elsewhere while the bytes came)
 // and what has to happen then, and nothing else, in the last millisecond of a "+":
 //   "open", "> PREAMBLES BYTES", "= LINK COMMAND REPLY", "burst BYTES"
 // "*" in bytes stands for the right check byte.
@@ -110,6 +111,13 @@ class ModemScript {
       return;
     }
     if (verb == "<") return Receive(words.str().substr(2));
+    if (verb == "held") {
+      std::string bytes;
+      std::getline(words >> number, bytes);
+      clock_->Advance(platform::Milliseconds{number});
+      unread_ = platform_.Loop().Post([this, bytes] { Receive(bytes); });
+      return;
+    }
     if (verb == "broken") return channel_->Close(), channel_->listener->OnBroken("It has gone.");
     if (verb == "plugged" || verb == "unplugged") {
       channel_->plugged = verb == "plugged";
@@ -183,6 +191,7 @@ class ModemScript {
            std::pair<std::shared_ptr<ZAFHartTypes::Exchange>, std::shared_ptr<Told>>>
       exchanges_;
   Channel* channel_ = nullptr;
+  platform::Subscription unread_;
   std::shared_ptr<HartLinks::HartLine> line_;
   std::array<std::shared_ptr<HartLinks::HartModemLink>, 3> links_;
 };
