@@ -82,6 +82,20 @@ TEST_P(OverBoth, LinksShareASessionThatOutlivesTheServer) {
   EXPECT_THAT(server->Heard(), ElementsAre("initiate", "3", "close"));
 }
 
+TEST_F(NetworkTest, AServerGoesOnFromThePortOfTheSession) {
+  for (const char* address : {"127.0.0.1", "::1"}) {
+    std::optional<LoopbackServer> server;
+    if (!platform::IgnoreFailures([&] { server.emplace(Transport::Udp, address, 0, true); }))
+      continue;
+    HartIpOptions options;
+    options.server = {address, server->Port(), Transport::Udp};
+    HartIpLink link(options);
+    EXPECT_EQ(Ask(link, 3), "004003");
+    EXPECT_EQ(Ask(link, 9), "004009");
+    EXPECT_THAT(server->Heard(), ElementsAre("initiate", "3", "9"));
+  }
+}
+
 TEST_F(NetworkTest, LinksOfTheClassNameTakeTheSettings) {
   LoopbackServer server(Transport::Tcp, "127.0.0.1");
   RegisterLinkClasses(platform.Classes());

@@ -79,27 +79,40 @@ void SocketChannel::LoseLater(const std::string& reason) {
 }
 
 void UdpChannel::Connect(const SocketAddress& peer) {
-  socket_ = platform::UdpSocket::ConnectTo(peer);
+  socket_ = platform::UdpSocket::OpenTowards(peer);
   readable_ = WatchReadable(*socket_);
   Opened(*socket_);
 }
 
 void UdpChannel::Send(hart::Bytes message) {
   Guard([&] {
-    if (socket_->Send(message)) Sent(message);
+    const bool taken =
+        isConnected_ ? socket_->Send(message) : socket_->SendTo(GetFlow().peer, message);
+    if (taken) Sent(message);
   });
 }
 
 void UdpChannel::Receive() {
   Buffer buffer;
-  std::optional<platform::UdpSocket::Received> received;
+  std::optional<std::size_t> size;
   try {
-    received = socket_->Receive(buffer);
+    size = ReceiveFromPeer(buffer);
   } catch (const Failure& failure) {
     return Lose(failure.Description());
   }
-  if (!received) return;
-  Received(hart::Bytes(buffer).first(std::min(received->size, buffer.size())));
+  if (size) Received(hart::Bytes(buffer).first(std::min(*size, buffer.size())));
+}
+
+std::optional<std::size_t> UdpChannel::ReceiveFromPeer(std::span<std::uint8_t> buffer) {
+  const auto received = socket_->Receive(buffer);
+  if (!received) return std::nullopt;
+  if (!isConnected_) {
+    if (!std::ranges::equal(received->from.Bytes(), GetFlow().peer.Bytes())) return std::nullopt;
+    socket_->Connect(received->from);
+    SetPeer(received->from);
+    isConnected_ = true;
+  }
+  return received->size;
 }
 
 TcpChannel::~TcpChannel() {

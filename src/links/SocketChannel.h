@@ -2,6 +2,7 @@
 
 #include <memory>
 #include <optional>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -27,6 +28,7 @@ class SocketChannel : public IpChannel {
   [[nodiscard]] platform::Subscription WatchReadable(const platform::Socket& socket);
 
   const Flow& GetFlow() const { return flow_; }
+  void SetPeer(const platform::SocketAddress& peer) { flow_.peer = peer; }
   IPacketObserver* Observer() const { return observer_.get(); }
 
   // Only as the last thing that their callers do: the user may destroy the channel.
@@ -63,6 +65,8 @@ class SocketChannel : public IpChannel {
   platform::Subscription losing_;
 };
 
+// A server may answer a session's initiation from a port that it has opened for the session: where
+// the first datagram comes from, the others go.
 class UdpChannel : public SocketChannel {
  public:
   using SocketChannel::SocketChannel;
@@ -71,8 +75,11 @@ class UdpChannel : public SocketChannel {
  private:
   void Connect(const platform::SocketAddress& peer) override;
   void Receive() override;
+  // Of the next datagram, the number of bytes; nothing when there is none, or a stranger's.
+  std::optional<std::size_t> ReceiveFromPeer(std::span<std::uint8_t> buffer);
 
   std::optional<platform::UdpSocket> socket_;
+  bool isConnected_ = false;  // the server's port is known
   platform::Subscription readable_;
 };
 

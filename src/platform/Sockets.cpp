@@ -35,9 +35,17 @@ std::optional<std::size_t> Result(ssize_t result, const char* what) {
   return std::nullopt;
 }
 
-void SetOption(int descriptor, int level, int option) {
-  const int on = 1;
-  setsockopt(descriptor, level, option, &on, sizeof(on));
+void SetOption(int descriptor, int level, int option, bool on = true) {
+  const int value = on ? 1 : 0;
+  setsockopt(descriptor, level, option, &value, sizeof(value));
+}
+
+// What the network reports of single datagrams: a connected socket tells what is final unasked, and
+// passes over what may be better in a moment.
+void SetTellsErrors(int descriptor, bool isV6, bool on) {
+#if defined(IP_RECVERR) && defined(IPV6_RECVERR)
+  SetOption(descriptor, isV6 ? IPPROTO_IPV6 : IPPROTO_IP, isV6 ? IPV6_RECVERR : IP_RECVERR, on);
+#endif
 }
 
 }  // namespace
@@ -78,10 +86,7 @@ void Socket::Bind(const SocketAddress& local) {
 
 UdpSocket UdpSocket::ConnectTo(const SocketAddress& peer) {
   UdpSocket socket(Kind::Datagram, peer);
-  const NativeAddress native(peer);
-  if (connect(socket.Descriptor(), native.Get(), native.size) != 0) {
-    Raise("Cannot reach " + peer.Text(), errno);
-  }
+  socket.Connect(peer);
   return socket;
 }
 
@@ -89,6 +94,22 @@ UdpSocket UdpSocket::BindTo(const SocketAddress& local) {
   UdpSocket socket(Kind::Datagram, local);
   socket.Bind(local);
   return socket;
+}
+
+UdpSocket UdpSocket::OpenTowards(const SocketAddress& peer) {
+  SocketAddress local = ConnectTo(peer).LocalAddress();
+  local.port = 0;
+  UdpSocket socket = BindTo(local);
+  SetTellsErrors(socket.Descriptor(), local.isV6, true);
+  return socket;
+}
+
+void UdpSocket::Connect(const SocketAddress& peer) {
+  const NativeAddress native(peer);
+  if (connect(Descriptor(), native.Get(), native.size) != 0) {
+    Raise("Cannot reach " + peer.Text(), errno);
+  }
+  SetTellsErrors(Descriptor(), peer.isV6, false);
 }
 
 bool UdpSocket::Send(std::span<const std::uint8_t> datagram) {

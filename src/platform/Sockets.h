@@ -38,6 +38,12 @@ class UdpSocket : public Socket {
   static UdpSocket ConnectTo(const SocketAddress& peer);
   // Takes datagrams from anyone; port 0 for any free one.
   static UdpSocket BindTo(const SocketAddress& local);
+  // As BindTo, at the address and a free port from which this peer is reached. That a peer refuses
+  // datagrams, a later call tells where the system can (Linux).
+  static UdpSocket OpenTowards(const SocketAddress& peer);
+
+  // From now on as one made by ConnectTo; its own address stays.
+  void Connect(const SocketAddress& peer);
 
   // One datagram. False when it cannot be taken just now; it is lost, as one on the way may be.
   bool Send(std::span<const std::uint8_t> datagram);

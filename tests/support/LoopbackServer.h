@@ -15,14 +15,16 @@
 namespace test_support {
 
 // A small HART-IP server in the message loop of the test: grants sessions and answers every request
-// with its command number as data.
+// with its command number as data. Over UDP it can have a port for sessions beside the one where
+// they are asked for.
 class LoopbackServer {
  public:
-  LoopbackServer(HartLinks::Transport transport, const char* address, std::uint16_t port = 0) {
+  LoopbackServer(HartLinks::Transport transport, const char* address, std::uint16_t port = 0,
+                 bool hasSessionPort = false) {
     const auto local = *platform::NumericAddress(address, port);
     if (transport == HartLinks::Transport::Udp) {
       udp_ = platform::UdpSocket::BindTo(local);
-      Watch(*udp_, [this] { ReceiveDatagram(); });
+      Watch(*udp_, [this, hasSessionPort] { ReceiveDatagram(*udp_, hasSessionPort); });
     } else {
       tcp_ = platform::TcpListener::BindTo(local);
       Watch(*tcp_, [this] { Accept(); });
@@ -46,12 +48,18 @@ class LoopbackServer {
   void Watch(const platform::Socket& socket, Handler handler) {
     readable_ = platform::Current().Loop().Watch({socket.Descriptor()}, handler);
   }
-  void ReceiveDatagram() {
+  void ReceiveDatagram(platform::UdpSocket& socket, bool opensSession) {
     std::array<std::uint8_t, 2000> buffer{};
-    const auto received = udp_->Receive(buffer);
+    const auto received = socket.Receive(buffer);
     if (!received) return;
     const auto datagram = ZAFHartTypes::hart::Bytes(buffer).first(received->size);
-    udp_->SendTo(received->from, Answer(ZAFHartTypes::hart::DecodeHartIp(datagram).message));
+    const auto answer = Answer(ZAFHartTypes::hart::DecodeHartIp(datagram).message);
+    if (opensSession) {
+      session_ = platform::UdpSocket::OpenTowards(received->from);
+      sessionReadable_ = platform::Current().Loop().Watch(
+          {session_->Descriptor()}, [this] { ReceiveDatagram(*session_, false); });
+    }
+    (opensSession ? *session_ : socket).SendTo(received->from, answer);
   }
   void Accept() {
     auto accepted = tcp_->Accept();
@@ -92,9 +100,11 @@ class LoopbackServer {
   }
 
   std::optional<platform::UdpSocket> udp_;
+  std::optional<platform::UdpSocket> session_;
   std::optional<platform::TcpListener> tcp_;
   std::list<Connection> connections_;
   platform::Subscription readable_;
+  platform::Subscription sessionReadable_;
   std::vector<std::string> heard_;
 };
 
