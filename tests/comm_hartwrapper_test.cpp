@@ -241,6 +241,11 @@ TEST_F(HartWrapperTest, Addresses) {
   EXPECT_TRUE(hart->Connect());
   EXPECT_EQ(line->log.back(), "0@3A10001234");
 
+  // As expanded type and device id have it, with two bits that are not in the address.
+  hart->SetAddressing(Addressing::LongAddress);
+  hart->SetAddressInformation(0, "", "FA10001234");
+  EXPECT_TRUE(hart->Connect()) << hart->ConnectionError();
+
   const auto failure = [&](Addressing by, std::int32_t polling, const char* tag,
                            const char* longOne) {
     try {

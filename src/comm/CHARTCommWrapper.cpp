@@ -8,6 +8,7 @@
 #include "ddobjects/Transaction.h"
 #include "ddobjects/Variable.h"
 #include "hart/HexText.h"
+#include "hart/LinkFrame.h"
 #include "hart/StatusBytes.h"
 #include "interfaces/InternalNames.h"
 #include "resources/ResText.h"
@@ -44,11 +45,14 @@ bool HoldsChange(const Transaction& transaction) {
   });
 }
 
+// The address as devices tell it. One made of expanded type and device id, or read off a frame, has
+// two bits more.
 std::string CheckedLongAddress(const std::string& text) {
   if (text.empty()) return text;
   std::vector<std::uint8_t> bytes;
   if (IgnoreFailures([&] { bytes = hart::FromHex(text); }) && bytes.size() == kUniqueAddressSize) {
-    return hart::ToHex(bytes);
+    const std::span<const std::uint8_t, kUniqueAddressSize> address(bytes);
+    return hart::ToHex(hart::LinkAddress::Unique(address).bytes);
   }
   throw Failure(ErrorNumber::InvalidArgument, "CHARTCommWrapper.SetAddressInformation",
                 "\"" + text + "\" is no long address. One has ten hexadecimal digits.");
