@@ -121,6 +121,7 @@ TEST(HartIpSession, WhatComesInsteadOfTheAnswer) {
       {"communication errors are asked again, the last one is handed over",
        {"< 1 3 0 #3 ack1/88", "> 0 3 0 #4 req1", "< 1 3 0 #4 ack1/88", "> 0 3 0 #5 req1",
         "< 1 3 0 #5 ack1/C0", "= 1 1 C000"}},
+      {"the master bit is the gateway's", {"< 1 3 0 #3 06000102000005", "= 1 1 0000"}},
       {"the device does not answer the gateway", {"< 1 3 0 #3", "= 1 1 no reply"}},
       {"status of the gateway: is the session known?",
        {"< 1 3 6 #3", "> 0 2 0 #4",

@@ -130,6 +130,12 @@ TEST_F(ServiceTest, PassesFramesOn) {
   Pass(40ms);
   EXPECT_THAT(client->sent, ElementsAre("010103000005000F068003020040C7"));
   EXPECT_EQ(device.asked, 5);
+  // One more before the slow answer: each has its own.
+  Tell("010003000008000D0280030081");
+  Tell("010003000009000D0280030081");
+  Pass(40ms);
+  EXPECT_THAT(client->sent,
+              ElementsAre("010103000008000F068003020040C7", "010103000009000F068003020040C7"));
   // Gone before the answer.
   Tell("010003000006000D0280030081");
   Tell("0100010000070008");

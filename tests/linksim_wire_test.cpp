@@ -245,6 +245,7 @@ TEST_F(WireTest, SendsBurstsInBurstMode) {
   const auto burst = wire->Burst();
   ASSERT_TRUE(burst);
   EXPECT_EQ(hart::ToHex(hart::EncodeFrame(*burst)), "81E6050000070D080000414B71820820B1");
+  EXPECT_FALSE(wire->Burst()->primaryMaster);
   const auto reply = wire->Answer({hart::FrameFault::None, Request(13)});
   ASSERT_TRUE(reply);
   EXPECT_TRUE(hart::DecodeFrame(reply->frame).frame.burst);

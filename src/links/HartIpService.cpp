@@ -122,17 +122,20 @@ void HartIpService::AskDevice(Place session, const Message& request) {
   auto reply = answerer_(hart::DecodeFrame(request.body));
   if (!reply) return Respond(*session, request, {});
   if (reply->delay == Milliseconds{0}) return Respond(*session, request, std::move(reply->frame));
-  session->answering =
+  auto& answering = session->answering;
+  std::erase_if(answering, [](const platform::Subscription& one) { return !one.IsActive(); });
+  answering.push_back(
       Loop().StartOnce(reply->delay, [this, session, request, frame = std::move(reply->frame)] {
         Respond(*session, request, frame);
-      });
+      }));
 }
 
 void HartIpService::Respond(Session& session, const Message& request,
                             std::vector<std::uint8_t> frame) {
-  session.answer = hart::EncodeHartIp({HartIpType::Response, HartIpId::TokenPassing,
-                                       hart::kHartIpSuccess, request.sequence, std::move(frame)});
-  session.client->Send(session.answer);
+  auto answer = hart::EncodeHartIp({HartIpType::Response, HartIpId::TokenPassing,
+                                    hart::kHartIpSuccess, request.sequence, std::move(frame)});
+  session.client->Send(answer);
+  if (request == session.lastRequest) session.answer = std::move(answer);
 }
 
 void HartIpService::WatchSilence(Session& session) {

@@ -67,9 +67,9 @@ class HartIpService {
     std::shared_ptr<Client> client;
     platform::Milliseconds inactivity;
     platform::Subscription silence;
-    Message lastRequest;               // of a device
-    std::vector<std::uint8_t> answer;  // to it; empty while the device takes its time
-    platform::Subscription answering;
+    Message lastRequest;                            // of a device
+    std::vector<std::uint8_t> answer;               // to it; empty until the device has it
+    std::vector<platform::Subscription> answering;  // while the device takes its time
   };
   using Place = std::list<Session>::iterator;
 

@@ -19,9 +19,11 @@ Milliseconds Now() {
   return platform::Current().GetClock().Now();
 }
 
-// A device that was asked at the broadcast address may answer with its own.
+// A device that was asked at the broadcast address may answer with its own; a gateway's reply may
+// have the bit of the master that the gateway is itself.
 bool IsAnswerTo(hart::LinkFrame frame, const hart::LinkFrame& request) {
   constexpr hart::LinkAddress kBroadcast{.isLong = true};
+  frame.primaryMaster = request.primaryMaster;
   if (request.address == kBroadcast && frame.address.isLong) frame.address = kBroadcast;
   return hart::Answers(frame, request);
 }

@@ -94,7 +94,8 @@ std::optional<LinkFrame> WireDevice::Burst() {
   if (!IsInBurstMode()) return std::nullopt;
   const auto number =
       static_cast<std::uint16_t>(device_->Number("burst_command_number").value_or(kBurstAsUsual));
-  const LinkFrame request = hart::RequestFrame(number, address_, true, {});
+  burstsToPrimary_ = !burstsToPrimary_;
+  const LinkFrame request = hart::RequestFrame(number, address_, burstsToPrimary_, {});
   LinkFrame frame = hart::ReplyFrame(request, Fitting(Ask(number), request));
   frame.type = hart::FrameType::Burst;
   frame.burst = true;

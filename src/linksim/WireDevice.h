@@ -41,7 +41,8 @@ class WireDevice {
   // is raised.
   std::optional<WireReply> Answer(const ZAFHartTypes::hart::DecodedFrame& request);
   // What the device sends unasked in burst mode ("burst_mode_select" other than 0): the reply to
-  // "burst_command_number" (1 when it has none). Nothing in other modes.
+  // "burst_command_number" (1 when it has none), to either master in turn, because a burst frame
+  // gives the bus to the other one. Nothing in other modes.
   std::optional<ZAFHartTypes::hart::LinkFrame> Burst();
   // Why the last request was answered with response code 6; "" when it was not.
   const std::string& LastError() const { return lastError_; }
@@ -67,6 +68,7 @@ class WireDevice {
   std::shared_ptr<EmulatedDevice> device_;
   std::shared_ptr<CommandCatalogue> commands_;
   Faults faults_;
+  bool burstsToPrimary_ = false;  // the last one
   ZAFHartTypes::hart::LinkAddress address_;
   std::string lastError_;
 };
