@@ -38,8 +38,8 @@ std::uint16_t Word(hart::Bytes data, std::size_t at) {
 }
 
 // From a reply to command 84: index (2 bytes), card, channel, manufacturer (2), expanded type (2),
-// device id (3), universal revision, long tag (32), device revision.
-constexpr std::size_t kSubDeviceSize = 45;
+// device id (3), universal revision, long tag (32), and of later gateways the device revision.
+constexpr std::size_t kSubDeviceSize = 44;
 FoundDevice SubDevice(hart::Bytes data) {
   FoundDevice device;
   device.identity.toldManufacturer = Word(data, 4);
@@ -47,7 +47,7 @@ FoundDevice SubDevice(hart::Bytes data) {
   device.identity.deviceId = hart::ReadUnsigned(data.subspan(8, 3));
   device.identity.universalRevision = data[11];
   device.longTag = hart::ReadLatin1(data.subspan(12, kLongTagSize));
-  device.identity.deviceRevision = data[44];
+  if (data.size() > kSubDeviceSize) device.identity.deviceRevision = data[kSubDeviceSize];
   return device;
 }
 
