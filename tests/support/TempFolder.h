@@ -1,6 +1,7 @@
 #pragma once
 
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include <filesystem>
 #include <fstream>
@@ -10,7 +11,7 @@
 
 namespace support {
 
-// A folder of its own for one test, removed with everything in it.
+// A folder of its own for one test of this process, removed with everything in it.
 class TempFolder {
  public:
   TempFolder() {
@@ -19,7 +20,8 @@ class TempFolder {
     for (char& c : name) {
       if (c == '/') c = '_';
     }
-    path_ = std::filesystem::path(testing::TempDir()) / ("zaf." + name);
+    path_ = std::filesystem::path(testing::TempDir()) /
+            ("zaf." + std::to_string(getpid()) + "." + name);
     std::filesystem::remove_all(path_);
     std::filesystem::create_directories(path_);
   }
