@@ -2,11 +2,6 @@
 #include <optional>
 
 #include "hart/HexText.h"
-#include "hartframe/link/DeviceAddress.h"
-#include "hartframe/link/LinkName.h"
-#include "links/HartIpOptions.h"
-#include "links/ModemOptions.h"
-#include "platform/Failure.h"
 #include "platform/Sockets.h"
 #include "support/DeviceServer.h"
 #include "support/HartframeTest.h"
@@ -16,7 +11,6 @@ namespace {
 namespace hart = ZAFHartTypes::hart;
 using namespace support;
 using testing::AllOf;
-using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::Not;
 using testing::StartsWith;
@@ -127,6 +121,9 @@ TEST_F(HartframeLink, FaultsOfTheDeviceAreTold) {
   EXPECT_EQ(none.code, 2);
   EXPECT_THAT(none.error, AllOf(HasSubstr("ist nicht erreichbar: 127.0.0.1:"),
                                 HasSubstr("Connection refused"), HasSubstr("Prüfen Sie")));
+  const Result setting = RunLine({"scan", "--link", "hartip://" + nobody + "?baud=1200"});
+  EXPECT_EQ(setting.code, 1);
+  EXPECT_THAT(setting.error, HasSubstr("no setting \"baud\"; it has: BusyAttempts"));
   const Result port = RunLine({"scan", "--link", "modem:/dev/no-such-port"});
   EXPECT_EQ(port.code, 2);
   EXPECT_THAT(port.error, HasSubstr("/dev/no-such-port"));
@@ -261,75 +258,30 @@ TEST_F(HartframeLink, RecordsWhatGoesOverEveryLink) {
   EXPECT_EQ(Run({"read", "tag", "--pcap", (folder_ / "none" / "x").string()}).code, 6);
 }
 
-// --- what the command line says ---
+// --- a modem's line ---
 
-std::string Settings(const std::string& text) {
-  std::string all;
-  try {
-    for (const auto& [name, value] : hartframe::LinkName::Parse(text).settings)
-      all += name + "=" + value + " ";
-  } catch (const platform::Failure& failure) {
-    return failure.Description();
-  }
-  return all;
-}
-
-TEST(HartframeLinkName, HasPlaceAndSettings) {
-  const struct {
-    const char* text;
-    const char* settings;  // or a part of what is wrong
-  } cases[] = {
-      {"hartip://plant", "host=plant "},
-      {"hartip://plant:50/tcp", "host=plant port=50 transport=tcp "},
-      {"hartip://[fe80::1%eth0]:7", "host=fe80::1%eth0 port=7 "},
-      {"hartip://[::1]/udp?Timeout=5&master=secondary", "host=::1 master=secondary timeout=5"},
-      {"modem:/dev/ttyUSB0?baud=2400", "baud=2400 port=/dev/ttyUSB0 "},
-      {"hartip://::1", "stands in brackets"},
-      {"hartip://[::1", "\"]\""},
-      {"hartip:///tcp", "host is missing"},
-      {"hartip://plant:", ":PORT"},
-      {"modem:", "serial port is missing"},
-      {"modem:COM3?baud", "SETTING=VALUE"},
-      {"modem:COM3?baud=1&Baud=2", "twice"},
-      {"tcp://plant", "a link is echo, device"},
+TEST_F(Hartframe, WorksOverAModemsLine) {
+  const std::string line = (folder_ / "line").string();
+  std::optional<ChildProgram> modem;
+  const auto plug = [&] {
+    modem.emplace(WithDevice({"serve", "--pty", line}), ChildProgram::Streams::Terminal);
+    ASSERT_TRUE(modem->WaitFor("pty "));
   };
-  for (const auto& item : cases) EXPECT_THAT(Settings(item.text), HasSubstr(item.settings));
-}
-
-TEST(HartframeLinkName, SettingsAreThoseOfTheLinkClass) {
-  using hartframe::LinkName;
-  using hartframe::ReadLinkOptions;
-  const auto modem = ReadLinkOptions<HartLinks::ModemOptions>(
-      LinkName::Parse("modem:/dev/ttyUSB0?master=secondary&rts=untouched&retries=1"));
-  EXPECT_FALSE(modem.primaryMaster);
-  EXPECT_EQ(modem.rts, HartLinks::RequestToSend::Untouched);
-  EXPECT_EQ(modem.retries, 1);
-  EXPECT_THROW(ReadLinkOptions<HartLinks::HartIpOptions>(LinkName::Parse("hartip://a?baud=1200")),
-               platform::Failure);
-}
-
-TEST(HartframeAddress, IsAPollingAddressATagOrALongAddress) {
-  const auto parsed = [](const std::string& text) -> std::string {
-    using ZAFHartTypes::Addressing;
-    try {
-      const auto address = hartframe::DeviceAddress::Parse(text);
-      if (address.addressing == Addressing::Tag) return "tag " + address.tag;
-      if (address.addressing == Addressing::LongAddress) return "long " + address.longAddress;
-      return "polling " + std::to_string(address.polling);
-    } catch (const platform::Failure&) {
-      return "none";
-    }
+  const auto over = [&](Arguments arguments) {
+    arguments.insert(arguments.end(), {"--link", "modem:" + line + "?master=secondary", "--dtm",
+                                       "SampleTemperature", "--pending", line + ".pending"});
+    return RunLine(arguments);
   };
-  EXPECT_EQ(parsed("63"), "polling 63");
-  EXPECT_EQ(parsed("64"), "none");
-  EXPECT_EQ(parsed("99999999999999999999"), "none");
-  EXPECT_EQ(parsed("tag:64"), "tag 64");
-  EXPECT_EQ(parsed("26061a2b3c"), "long 26061A2B3C");
-  EXPECT_EQ(parsed("1234567890"), "long 1234567890");
-  EXPECT_EQ(parsed("TT-4711"), "tag TT-4711");
-  EXPECT_EQ(parsed("Ä" + std::string(31, 'x')), "tag Ä" + std::string(31, 'x'));
-  EXPECT_EQ(parsed(std::string(33, 'x')), "none");
-  EXPECT_EQ(parsed(""), "none");
+  ASSERT_NO_FATAL_FAILURE(plug());
+  EXPECT_THAT(over({"upload"}).out, HasSubstr("89 variables loaded from the device."));
+  EXPECT_THAT(over({"scan", "--to", "1"}).out, HasSubstr(kLongAddress));
+  modem.reset();
+  const Result unplugged = over({"write", "alarm_delay=9"});
+  EXPECT_EQ(unplugged.code, 2);
+  EXPECT_THAT(unplugged.error, HasSubstr(line));
+  ASSERT_NO_FATAL_FAILURE(plug());
+  EXPECT_EQ(over({"write"}).code, 0);
+  EXPECT_THAT(TempFolder::Read(device_), HasSubstr("\nalarm_delay=9\n"));
 }
 
 }  // namespace

@@ -140,7 +140,13 @@ void Session::SetSessionVariables() {
   const char* user = std::getenv("USER");
   set("__ZAF__FDTUserName", user ? user : "");
   set("__ZAF__FDTDTMState", isOffline_ ? kRunning : kOnline);
-  if (options_.busyAttempts) set(names::kRetryNumber, *options_.busyAttempts);
+  TakeBusyAttempts();
+}
+
+void Session::TakeBusyAttempts() {
+  if (!options_.busyAttempts) return;
+  Database().WriteValue(Definition::Define(names::kRetryNumber, ObjectKind::Variable),
+                        *options_.busyAttempts);
 }
 
 ZAFHartTypes::IDDKernel& Session::Kernel() {

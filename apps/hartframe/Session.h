@@ -82,6 +82,8 @@ class Session {
   SignalWatch& Signals() { return *signals_; }
   // Speaks another language from now on: "en", "de", "fr", "it", "es" or "kt".
   void SetLanguage(const std::string& language);
+  // What --busy says counts, whatever a restored data set has.
+  void TakeBusyAttempts();
   // Tells what the emulated device could not do with its file, and the like.
   ExitCode TellFileErrors();
   // Why there is no connection to a real device, in the user's language; "" when there is one, or

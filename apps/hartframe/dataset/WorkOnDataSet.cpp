@@ -32,6 +32,7 @@ Usage UsageOf(const Options& options) {
 void Open(Session& session, const Usage& usage) {
   const auto kept = std::make_shared<KeptDataSet>(session, session.Settings().dataSetFile);
   kept->Restore();
+  session.TakeBusyAttempts();
   const std::string path = kept->Path().string();
   if (kept->IsNew() && usage.onlyLooks)
     throw CommandFailure(ExitCode::FileBroken, session.Say()(texts::kNoFile, {path}));
