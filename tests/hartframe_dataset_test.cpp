@@ -114,6 +114,22 @@ TEST_F(HartframeDataSet, HoldsChangesThatCouldNotBeWritten) {
   EXPECT_EQ(Line("damping_value"), "damping_value=a- float single 4");
 }
 
+TEST_F(HartframeDataSet, SavesOverNoChangesThatWait) {
+  ASSERT_EQ(Run({"save", file_, "tag=TYPED", "alarm_delay=9"}).code, 0);
+  const std::string before = File();
+  for (const char* option : {"--no-upload", "tag=ANEW"}) {
+    const Result result = Run({"save", file_, option});
+    EXPECT_EQ(result.code, 7) << option;
+    EXPECT_THAT(result.error, AllOf(HasSubstr("alarm_delay"), HasSubstr("--discard")));
+  }
+  EXPECT_EQ(Run({"save", file_, "alarm_delay=5", "alarm_delay=6"}).code, 1) << "which one?";
+  EXPECT_EQ(File(), before);
+  EXPECT_EQ(RunOn({"save", file_, "damping_value=4"}).code, 0) << "they are its own";
+  EXPECT_THAT(Line("alarm_delay"), HasSubstr("=aw "));
+  EXPECT_EQ(Run({"save", file_, "--discard"}).code, 0);
+  EXPECT_THAT(Line("alarm_delay"), HasSubstr("=a- "));
+}
+
 TEST_F(HartframeDataSet, ChangesThatAreNotValidWait) {
   ASSERT_EQ(Run({"save", file_, "linearisation_input_6=500", "linearisation_count=5"}).code, 0);
   const Result written = RunOn({"write"});

@@ -46,6 +46,8 @@ TEST_F(HartframePair, DownloadsWhatDiffers) {
   EXPECT_THAT(Differences(), ElementsAre("tag differs", "range_unit differs",
                                          "upper_range_value differs", "lower_range_value differs"));
   const std::string device = TempFolder::Read(device_);
+  const std::string mistyped = (folder_ / "plant.dateset").string();
+  EXPECT_EQ(Run({"pair", "--download", "--dataset", mistyped}).code, 6) << "no defaults go out";
   EXPECT_EQ(RunOn({"pair", "--download", "--fault", "no-reply"}, 2)["pending"].size(), 3U);
   EXPECT_EQ(TempFolder::Read(device_), device);
   EXPECT_EQ(RunOn({"pair", "--download"}, 0)["writes"].size(), 4U) << "and no more";
@@ -158,6 +160,27 @@ TEST_F(BothSides, ShareSingleStorageVariables) {
   online_->Open();
   pair_ = std::make_unique<hartframe::DataSetPair>(*online_);
   EXPECT_EQ(online_->Variable(Named(kShared))->Value(), ZAFHartTypes::Variant(6));
+}
+
+TEST_F(BothSides, LeaveAFileToWhoeverChangedItMeanwhile) {
+  hartframe::Session& offline = pair_->Offline();
+  const auto type = [&](const char* text) {
+    offline.Database().WriteValue(Named("tag"), text);
+    offline.Database().SetVariableToBeWritten(Named("tag"), true);
+  };
+  type("FIRST");
+  pair_->File().Keep();
+  std::string theirs = TempFolder::Read(options_.dataSetFile);
+  theirs.replace(theirs.find("FIRST"), 5, "THEIR").erase(theirs.find("Checksum="));
+  theirs += "Checksum=none\n";
+  folder_.Write("plant.dataset", theirs);
+  type("SECOND");
+  EXPECT_THROW(pair_->File().Keep(), hartframe::CommandFailure);
+  EXPECT_EQ(TempFolder::Read(options_.dataSetFile), theirs);
+  type("THIRD");
+  pair_->File().Keep();
+  EXPECT_EQ(pair_->File().Path(), options_.dataSetFile.string() + ".2");
+  EXPECT_THAT(TempFolder::Read(pair_->File().Path()), HasSubstr("THIRD"));
 }
 
 TEST_F(BothSides, RefreshTheOnlineDataSetAlone) {

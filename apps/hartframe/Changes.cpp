@@ -58,6 +58,16 @@ void RequireOneValue(Session& session, const Change& change) {
                                       OneLine(change.value), session.Pending().Path().string()}));
 }
 
+void RequireFirst(Session& session, const std::vector<Change>& others, const Change& change) {
+  for (const Change& other : others) {
+    if (!other.definition.IsSameAs(change.definition)) continue;
+    throw CommandFailure(
+        ExitCode::Usage,
+        session.Say()(texts::kGivenTwice,
+                      {change.definition.Name(), OneLine(other.value), OneLine(change.value)}));
+  }
+}
+
 std::vector<PendingChange> LinesOf(const std::vector<Change>& changes) {
   std::vector<PendingChange> lines;
   for (const Change& change : changes) lines.push_back({change.definition.Name(), change.value});
@@ -77,7 +87,9 @@ std::vector<Change> ParseChanges(Session& session, const std::vector<std::string
     if (equals == std::string::npos || equals == 0) {
       throw CommandFailure(ExitCode::Usage, session.Say()(Text::NotAChange, {OneLine(text)}));
     }
-    changes.push_back({session.Find(text.substr(0, equals)), text.substr(equals + 1)});
+    const Change change{session.Find(text.substr(0, equals)), text.substr(equals + 1)};
+    RequireFirst(session, changes, change);
+    changes.push_back(change);
   }
   return changes;
 }

@@ -13,7 +13,8 @@ struct Change {
   std::string value;  // as typed
 };
 
-// Takes "NAME=VALUE" texts apart. CommandFailure (Usage) for another form or an unknown name.
+// Takes "NAME=VALUE" texts apart. CommandFailure (Usage) for another form, an unknown
+// name, or one that is given twice.
 std::vector<Change> ParseChanges(Session& session, const std::vector<std::string>& texts);
 // Changes of earlier runs that are still to be written, without those of variables that are to be
 // changed anew. CommandFailure: FileBroken, or NotAllowed when the data set on disk is to write

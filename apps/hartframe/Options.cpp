@@ -79,6 +79,7 @@ void AddDataSetCommands(CommandAdder& adder, Options& options) {
       ->type_name("NAME=VALUE");
   save.add_flag("--no-upload", options.noUpload,
                 "Save what there is without the device: the DTM's defaults, or the --dataset");
+  save.add_flag("--discard", options.discard, "Give up pending changes of the file");
 
   CLI::App& pair = adder.Add(CommandKind::Pair, "pair",
                              "Change the --dataset and bring it and the device together");
@@ -88,7 +89,8 @@ void AddDataSetCommands(CommandAdder& adder, Options& options) {
                                              "First load the device's values into the data set");
   pair.add_flag("--download", options.downloadPair, "Then write what differs to the device")
       ->excludes(uploads);
-  pair.add_flag("--discard", options.discard, "Give up pending changes without asking");
+  pair.add_flag("--discard", options.discard, "Give up pending changes without asking")
+      ->needs(uploads);
 
   CLI::App& compare = adder.Add(CommandKind::Compare, "compare",
                                 "Compare the --dataset with the device, variable by variable");

@@ -5,6 +5,7 @@
 #include "hartframe/browse/PairScreenTexts.h"
 #include "hartframe/browse/TextLayout.h"
 #include "hartframe/dataset/DataSetTexts.h"
+#include "hartframe/dataset/KeptDataSet.h"
 #include "interfaces/InternalNames.h"
 #include "platform/Platform.h"
 
@@ -102,8 +103,9 @@ std::string Browser::StatusLine() {
   const std::size_t pending = actions_->Pending();
   const std::string link =
       options.deviceFile.empty() ? LinkText(options) : options.deviceFile.filename().string();
+  const auto kept = pair_ ? pair_->Offline().Kept() : online_.Kept();
   return " " +
-         Joined({options.dtm, link, options.dataSetFile.filename().string(),
+         Joined({options.dtm, link, kept ? kept->Path().filename().string() : "",
                  pending > 0 ? say(texts::kPendingCount, {std::to_string(pending)}) : "",
                  WritesAtOnce(online_) ? say(texts::kWritesAtOnce) : "",
                  online_.Row(Internal(names::kDTMOnlineState)).value, say(texts::kLanguageName),

@@ -53,6 +53,13 @@ bool DataSetFile::Exists() const {
   return std::filesystem::exists(path_, ignored);
 }
 
+std::filesystem::path DataSetFile::FreePathBeside() const {
+  for (int number = 2;; ++number) {
+    const DataSetFile beside(path_.string() + "." + std::to_string(number), say_);
+    if (!beside.Exists()) return beside.path_;
+  }
+}
+
 StoredDataSet DataSetFile::Load() const {
   std::string content;
   try {
@@ -68,7 +75,7 @@ void DataSetFile::Save(const StoredDataSet& dataSet) const {
   try {
     platform::WriteFileAtomically(path_, content);
   } catch (const platform::Failure& failure) {
-    throw CommandFailure(ExitCode::FileBroken, failure.Description());
+    throw CommandFailure(ExitCode::FileBroken, say_(texts::kCannotSave, {failure.Description()}));
   }
 }
 

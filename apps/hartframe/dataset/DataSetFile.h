@@ -51,6 +51,10 @@ class DataSetFile {
   DataSetFile(std::filesystem::path path, const Speech& say) : path_(std::move(path)), say_(say) {}
 
   const std::filesystem::path& Path() const { return path_; }
+  // Of a file that is not there: "plant.dataset.2" and so on.
+  std::filesystem::path FreePathBeside() const;
+  // Names another file; neither is touched.
+  void MoveTo(std::filesystem::path path) { path_ = std::move(path); }
   bool Exists() const;
   StoredDataSet Load() const;
   // Replaces the file as a whole or leaves it as it was.

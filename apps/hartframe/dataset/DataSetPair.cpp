@@ -10,11 +10,17 @@ DataSetPair::DataSetPair(Session& online)
   // Now that they are a pair, what is shared reaches both.
   offline_.SetKept(std::make_shared<KeptDataSet>(offline_, options_.dataSetFile));
   File().Restore();
-  File().RequireSameDevice(online_);
+  if (HasDevice()) File().RequireSameDevice(online_);
 }
 
 DataSetPair::~DataSetPair() {
   if (manager_) manager_->Part();
+}
+
+bool DataSetPair::HasDevice() const {
+  const bool isOfflineOnly =
+      options_.command == CommandKind::Pair && !options_.uploadPair && !options_.downloadPair;
+  return !isOfflineOnly || options_.link != LinkKind::Echo;
 }
 
 void DataSetPair::TakeOver(const ZAFHartTypes::Variable& online) {

@@ -29,6 +29,9 @@ class DataSetPair {
   void TakeOver(const ZAFHartTypes::Variable& online);
 
  private:
+  // Without one, the offline side can be changed all the same.
+  bool HasDevice() const;
+
   Session& online_;
   Options options_;
   Session offline_;

@@ -103,6 +103,46 @@ inline constexpr const char* kTakeThatDtm =
     "betsu no fairu o erande kudasai.";
 
 // --- working with a data set ---
+inline constexpr const char* kCannotSave =
+    "{0}. The data set is not saved: make the file writable, or name another one.|de|{0}. Der "
+    "Datensatz ist nicht gespeichert: die Datei beschreibbar machen oder eine andere nennen.|fr|"
+    "{0}. Le jeu de données n'est pas enregistré : rendez le fichier accessible en écriture, ou "
+    "nommez-en un autre.|it|{0}. Il set di dati non è salvato: rendere scrivibile il file, o "
+    "indicarne un altro.|es|{0}. El conjunto de datos no está guardado: permita escribir el "
+    "archivo o indique otro.|kt|{0}. Deetasetto wa hozon sarete imasen: fairu o kakikomi kanou ni "
+    "suru ka, betsu no fairu o shitei shite kudasai.";
+inline constexpr const char* kChangedMeanwhile =
+    "\"{0}\" was changed by another program meanwhile and stays as it is. The data set of this one "
+    "is saved in \"{1}\": take over what \"{0}\" lacks, then delete \"{1}\".|de|\"{0}\" wurde "
+    "inzwischen von einem anderen Programm geändert und bleibt, wie es ist. Der Datensatz dieses "
+    "Programms steht in \"{1}\": übernehmen, was in \"{0}\" fehlt, dann \"{1}\" löschen.|fr|"
+    "\"{0}\" a été modifié entre-temps par un autre programme et reste tel quel. Le jeu de données "
+    "de celui-ci est dans \"{1}\" : reprenez ce qui manque à \"{0}\", puis supprimez \"{1}\".|it|"
+    "\"{0}\" è stato modificato intanto da un altro programma e resta com'è. Il set di dati di "
+    "questo è in \"{1}\": riprendere ciò che manca in \"{0}\", poi eliminare \"{1}\".|es|Otro "
+    "programa "
+    "cambió \"{0}\" entretanto, y queda como está. El conjunto de datos de este está en \"{1}\": "
+    "traslade lo que falte en \"{0}\" y después borre \"{1}\".|kt|\"{0}\" wa sono aida ni betsu no "
+    "puroguramu ga henkou shita node, sono mama ni shimasu. Kono puroguramu no deetasetto wa "
+    "\"{1}\" ni arimasu: \"{0}\" ni nai mono o utsushite kara \"{1}\" o keshite kudasai.";
+inline constexpr const char* kHoldsChanges =
+    "\"{0}\" holds changes that are not written yet and would be lost: {1}. Work on it with "
+    "--dataset, save to another file, or give --discard.|de|\"{0}\" enthält Änderungen, die noch "
+    "nicht geschrieben sind und verloren gingen: {1}. Mit --dataset daran arbeiten, in eine andere "
+    "Datei speichern oder --discard angeben.|fr|\"{0}\" contient des changements qui ne sont pas "
+    "encore écrits et seraient perdus : {1}. Travaillez dessus avec --dataset, enregistrez dans un "
+    "autre fichier, ou donnez --discard.|it|\"{0}\" contiene modifiche non ancora scritte che "
+    "andrebbero perse: {1}. Lavorarci con --dataset, salvare in un altro file, o dare --discard."
+    "|es|\"{0}\" contiene cambios aún no escritos que se perderían: {1}. Trabaje en él con "
+    "--dataset, guarde en otro archivo o dé --discard.|kt|\"{0}\" ni wa mi-kakikomi no henkou ga "
+    "ari, ushinawaremasu: {1}. --dataset de sagyou suru ka, betsu no fairu ni hozon suru ka, "
+    "--discard o tsukete kudasai.";
+inline constexpr const char* kGivenTwice =
+    "{0} is given twice, as \"{1}\" and as \"{2}\". Give it once.|de|{0} ist zweimal angegeben, "
+    "als \"{1}\" und als \"{2}\". Einmal angeben.|fr|{0} est donnée deux fois, \"{1}\" et \"{2}\". "
+    "Donnez-la une fois.|it|{0} è data due volte, \"{1}\" e \"{2}\". Darla una volta.|es|{0} se "
+    "da dos veces, \"{1}\" y \"{2}\". Déla una vez.|kt|{0} ga ni-kai, \"{1}\" to \"{2}\" ga "
+    "shitei sarete imasu. Ikkai dake shitei shite kudasai.";
 inline constexpr const char* kNoFile =
     "There is no data set \"{0}\"; \"hartframe save\" makes one.|de|Es gibt keinen Datensatz "
     "\"{0}\"; \"hartframe save\" legt einen an.|fr|Il n'y a pas de jeu de données \"{0}\" ; "

@@ -226,15 +226,39 @@ bool KeptDataSet::SaysTheSame(const StoredDataSet& dataSet) const {
 void KeptDataSet::Keep() {
   if (isAbandoned_) return;
   StoredDataSet current = Current();
-  if (SaysTheSame(current)) return;
-  file_.Save(current);
-  loaded_ = std::move(current);
+  if (!SaysTheSame(current)) Store(std::move(current));
+}
+
+bool KeptDataSet::IsAsLeft() const {
+  if (!file_.Exists()) return true;
+  try {
+    return SaysTheSame(file_.Load());
+  } catch (const CommandFailure&) {
+    return false;
+  }
+}
+
+void KeptDataSet::Store(StoredDataSet dataSet) {
+  const std::string meant = Path().string();
+  const bool isAsLeft = IsAsLeft();
+  const DataSetFile file(isAsLeft ? Path() : file_.FreePathBeside(), session_.Say());
+  file.Save(dataSet);
+  loaded_ = std::move(dataSet);
+  if (isAsLeft) return;
+  file_.MoveTo(file.Path());
+  throw CommandFailure(ExitCode::FileBroken,
+                       session_.Say()(texts::kChangedMeanwhile, {meant, Path().string()}));
 }
 
 std::size_t KeptDataSet::SaveTo(const DataSetFile& file) {
-  const StoredDataSet current = Current();
-  file.Save(current);
-  return current.variables.size();
+  StoredDataSet current = Current();
+  const std::size_t count = current.variables.size();
+  std::error_code isNone;
+  if (std::filesystem::equivalent(file.Path(), Path(), isNone))
+    Store(std::move(current));
+  else
+    file.Save(current);
+  return count;
 }
 
 StoredDataSet KeptDataSet::Current() {

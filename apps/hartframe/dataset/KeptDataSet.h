@@ -31,7 +31,9 @@ class KeptDataSet {
   void RequireSameDevice(Session& online);
   // The file does not say the same; there may be none.
   bool HasChanged() { return !SaysTheSame(Current()); }
-  // Writes the file when something has changed. CommandFailure (FileBroken).
+  // Writes the file when something has changed. CommandFailure (FileBroken). A file that another
+  // program has changed meanwhile stays as it is: the data set then goes into one beside it, where
+  // it is kept from now on, and the failure names it.
   void Keep();
   // The file stays as it is from now on.
   void Abandon() { isAbandoned_ = true; }
@@ -55,6 +57,9 @@ class KeptDataSet {
   void RefuseType(const StoredVariable& stored, const ZAFHartTypes::Variable& variable) const;
 
   StoredDataSet Current();
+  // The file is as it was restored or last written; it may be gone.
+  bool IsAsLeft() const;
+  void Store(StoredDataSet dataSet);
   bool SaysTheSame(const StoredDataSet& dataSet) const;
   bool IsAvailable(const ZAFHartTypes::Variable& variable) const;
   // Of the identity that a variable tells; nothing while it is not known.

@@ -52,6 +52,11 @@ ExitCode RunPair(Session& online) {
   const Options& options = online.Settings();
   if (options.downloadPair || !options.changes.empty()) RequireWriteAccess(online);
   DataSetPair pair(online);
+  // A mistyped name must not bring the DTM's defaults to the device.
+  if (pair.File().IsNew() && options.downloadPair) {
+    throw CommandFailure(ExitCode::FileBroken,
+                         online.Say()(texts::kNoFile, {pair.File().Path().string()}));
+  }
   if (pair.File().IsNew()) {
     online.Tell().Note("newDataSet",
                        online.Say()(texts::kNewDataSet, {pair.File().Path().string()}));

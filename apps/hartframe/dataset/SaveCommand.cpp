@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include "hartframe/Changes.h"
 #include "hartframe/Commands.h"
 #include "hartframe/DataSet.h"
@@ -8,9 +10,31 @@ namespace hartframe {
 
 namespace {
 
-// Only a data set of the same DTM is replaced; anything else at that place is somebody's.
-void RequireReplaceable(Session& session, const DataSetFile& file) {
-  if (file.Exists()) KeptDataSet::RequireSameDtm(session, file, file.Load());
+// The change is given anew, or waits in this session as well.
+bool IsHeld(Session& session, const StoredVariable& stored, const std::vector<Change>& anew) {
+  const auto variable = session.Variable(session.Find(stored.name));
+  if (variable->ToBeWritten() && variable->Value() == stored.value) return true;
+  return std::any_of(anew.begin(), anew.end(), [&](const Change& change) {
+    return change.definition.IsSameAs(variable->Definition());
+  });
+}
+
+// Only a data set of the same DTM is replaced; anything else at that place is somebody's. So are
+// its changes that are still to be written.
+void RequireReplaceable(Session& session, const DataSetFile& file,
+                        const std::vector<Change>& anew) {
+  if (!file.Exists()) return;
+  const StoredDataSet replaced = file.Load();
+  KeptDataSet::RequireSameDtm(session, file, replaced);
+  if (session.Settings().discard) return;
+  std::string lost;
+  for (const StoredVariable& stored : replaced.variables) {
+    if (!stored.toBeWritten || IsHeld(session, stored, anew)) continue;
+    lost += (lost.empty() ? "" : ", ") + stored.name;
+  }
+  if (lost.empty()) return;
+  throw CommandFailure(ExitCode::NotAllowed,
+                       session.Say()(texts::kHoldsChanges, {file.Path().string(), lost}));
 }
 
 // Loads from the device; what waited to be written does so again afterwards. Nothing is saved of a
@@ -34,9 +58,9 @@ ExitCode LoadForSaving(Session& session) {
 
 ExitCode RunSave(Session& session) {
   const DataSetFile file(session.Settings().saveFile, session.Say());
-  RequireReplaceable(session, file);
   const std::vector<Change> changes = ParseChanges(session, session.Settings().changes);
   const std::vector<Change> pending = LoadPending(session, changes);
+  RequireReplaceable(session, file, changes);
   ExitCode code = ExitCode::Ok;
   if (session.Settings().noUpload)
     session.Comm().SetEmulate(true);

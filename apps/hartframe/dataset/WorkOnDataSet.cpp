@@ -50,12 +50,13 @@ ExitCode RunKeeping(KeptDataSet& dataSet, Report& report,
     const ExitCode code = operation();
     dataSet.Keep();
     return code;
-  } catch (const platform::Failure&) {
+  } catch (const platform::Failure& end) {
     // The operation's own end counts; that the file cannot be written is told besides.
     try {
       dataSet.Keep();
     } catch (const CommandFailure& failure) {
-      report.Problem(NameOf(failure.Code()), failure.Description());
+      if (failure.Description() != end.Description())
+        report.Problem(NameOf(failure.Code()), failure.Description());
     }
     throw;
   }
