@@ -5,9 +5,6 @@
 #include "ddobjects/Command.h"
 #include "ddobjects/ItemArray.h"
 #include "ddobjects/KeyedList.h"
-#include "ddobjects/Menu.h"
-#include "ddobjects/ObjectList.h"
-#include "ddobjects/Relations.h"
 #include "ddobjects/Variable.h"
 #include "types/Failure.h"
 
@@ -31,31 +28,6 @@ std::shared_ptr<Variable> SnapshotOf(const std::shared_ptr<Variable>& stored) {
   return stored->ComputeAttributes()->MakeVariable();
 }
 
-TEST(Definition, NamesTheSameItemWhateverTheLetterCase) {
-  EXPECT_TRUE(VariableNamed("Upper_Range").IsSameAs(VariableNamed("upper_range")));
-  EXPECT_FALSE(VariableNamed("upper_range").IsSameAs(VariableNamed("lower_range")));
-  EXPECT_EQ(VariableNamed("Upper_Range").Name(), "Upper_Range");
-  EXPECT_TRUE(Definition().IsEmpty());
-}
-
-TEST(DefinitionList, CountsFromOneAndRefusesOtherPositions) {
-  DefinitionList list{VariableNamed("a"), VariableNamed("b")};
-  EXPECT_EQ(list.IndexOf(VariableNamed("B")), 2U);
-  EXPECT_EQ(list.IndexOf(VariableNamed("c")), 0U);
-  EXPECT_THROW(list.Item(0), Failure);
-  EXPECT_THROW(list.Remove(3), Failure);
-  list.Remove(1);
-  EXPECT_EQ(list.Item(1).Name(), "b");
-}
-
-TEST(DDObject, OffersTheViewOfItsOwnKindOnly) {
-  const std::shared_ptr<DDObject> object = MakeObject<Variable>("v");
-  EXPECT_NE(object->MakeVariable(), nullptr);
-  EXPECT_EQ(object->MakeCommand(), nullptr);
-  EXPECT_EQ(object->MakeMenu(), nullptr);
-  EXPECT_THROW(object->Assign(Menu(Definition::Define("m", ObjectKind::Menu))), Failure);
-}
-
 TEST(Variable, SnapshotCarriesOnlyWhatWasSetOnIt) {
   const auto stored = MakeObject<Variable>("v");
   stored->SetValue(1);
@@ -73,17 +45,6 @@ TEST(Variable, SnapshotCarriesOnlyWhatWasSetOnIt) {
   EXPECT_EQ(stored->UnitText(), "mA");
   EXPECT_FALSE(stored->InReadRecursion());
   EXPECT_EQ(stored->WriteDependencies().Count(), 0U);
-}
-
-TEST(Variable, CopyCarriesEverything) {
-  const auto stored = MakeObject<Variable>("v");
-  stored->SetValue(1);
-  const auto remembered = stored->Copy();
-  stored->SetValue(2);
-  stored->SetErrorText("refused");
-  stored->Assign(*remembered);
-  EXPECT_EQ(stored->Value(), Variant(1));
-  EXPECT_EQ(stored->ErrorText(), "");
 }
 
 TEST(Variable, AttributesOfOneSnapshotNeverReachAnother) {
@@ -112,14 +73,6 @@ TEST(Variable, EveryComputationStartsFromTheFrozenAttributes) {
     stored->Assign(*snapshot);
     EXPECT_EQ(stored->PreReadActions().Count(), 2U);
   }
-}
-
-TEST(Variable, ValueAvailableFromTheDefaultOnlyIsTheDefault) {
-  const auto variable = MakeObject<Variable>("v");
-  variable->SetDefaultValue(7);
-  EXPECT_TRUE(variable->Value().IsEmpty());
-  variable->SetAvailable(true);
-  EXPECT_EQ(variable->Value(), Variant(7));
 }
 
 struct CheckCase {
@@ -207,21 +160,6 @@ TEST(Variable, FallbackIsTheLastAcceptedValueThenTheDefault) {
   EXPECT_EQ(SnapshotOf(variable)->FallbackValue(), Variant(70));
 }
 
-TEST(Variable, CurrentVariableIsOfTheEntryAlone) {
-  const auto stored = MakeObject<Variable>("v");
-  const auto read = SnapshotOf(stored);
-  stored->SetCurrentVariable(read);
-  EXPECT_EQ(SnapshotOf(stored)->CurrentVariable(), nullptr);
-  EXPECT_EQ(stored->Copy()->CurrentVariable(), nullptr);
-  EXPECT_EQ(stored->CurrentVariable(), read);
-}
-
-TEST(TypeInfo, FourPackedCharactersTakeThreeBytes) {
-  EXPECT_EQ(MakeTyped(TypeCode::PackedAscii, 8)->TypeInfo().WireSize(), 6);
-  EXPECT_EQ(MakeTyped(TypeCode::PackedAscii, 32)->TypeInfo().WireSize(), 24);
-  EXPECT_EQ(MakeTyped(TypeCode::Date, 0)->TypeInfo().WireSize(), 3);
-}
-
 TEST(Command, CopyHasItemsOfItsOwnWithTheirBindings) {
   const auto command = MakeObject<Command>("write_range");
   Transaction& transaction = command->Transactions().Add(0);
@@ -254,14 +192,6 @@ TEST(KeyedList, RefusesADuplicateKeyAndKeepsItsOrder) {
   EXPECT_EQ(list.At(TextKey::Of("C")), 3);
   EXPECT_EQ(list.At(2), 3);
   EXPECT_THROW(list.At(3), Failure);
-}
-
-TEST(ObjectList, KeepsTheFirstObjectOfAName) {
-  ObjectList list;
-  const auto first = MakeObject<Variable>("v");
-  EXPECT_TRUE(list.Add(first));
-  EXPECT_FALSE(list.Add(MakeObject<Variable>("V")));
-  EXPECT_EQ(list.Find(VariableNamed("V")), first);
 }
 
 }  // namespace

@@ -3,27 +3,15 @@
 #include <gtest/gtest.h>
 
 #include "builtins/CDDBuiltinLib.h"
-#include "support/StubComponents.h"
+#include "support/ComputingKernel.h"
+#include "support/FailureOf.h"
 #include "workerdb/CDDWorkerDB.h"
 
 namespace {
 
 using namespace ZAFHartTypes;          // NOLINT(google-build-using-namespace)
 using namespace ZAFHartTypes::dtmkit;  // NOLINT(google-build-using-namespace)
-
-// Computes attributes at every look-up.
-class ComputingKernel : public test_support::StubKernel {
- public:
-  std::shared_ptr<Variable> GetVariable(const Definition& definition) override {
-    auto variable = StubKernel::GetVariable(definition);
-    variable->BeginAttributeComputation();
-    return dataModel->ComputeVarAttrs(*this, *components.lock(), definition.Name(), variable);
-  }
-  std::shared_ptr<Command> GetCommand(const Definition& definition) override {
-    return dataModel->ComputeCmdAttrs(*this, *components.lock(), definition.Name(),
-                                      StubKernel::GetCommand(definition));
-  }
-};
+using test_support::ComputingKernel;
 
 // A DTM instance on a description.
 class Instance {
@@ -139,14 +127,6 @@ TEST(DataModel, ConditionsFollowValues) {
       instance.model->ComputeVarValidity(*instance.kernel, *instance.components, "wires", wires));
 }
 
-TEST(DataModel, FailureOfAConditionReachesTheKernel) {
-  DeviceDescription dd;
-  dd.Variable("broken").Float().ValidWhen(
-      [](Context& context) { return context.Long("gone") > 0; });
-  Instance instance(dd);
-  EXPECT_THROW(instance.Get("broken"), Failure);
-}
-
 TEST(DataModel, ListsCommandsAndRelations) {
   DeviceDescription dd;
   dd.Command("read", 1, Operation::Read);
@@ -225,13 +205,11 @@ TEST(MethodBody, IsEndedOnEveryWayOut) {
       auto builtins = std::make_shared<ZAFHartLib::CDDBuiltinLib>();
       builtins->SetComponentModel(instance.components);
       instance.components->builtins = std::move(builtins);
-      ErrorNumber number{};
-      try {
-        instance.model->ExecuteMethodBody(*kernel, *instance.components, "TEST", {}, inAbort);
-      } catch (const Failure& failure) {
-        number = failure.Number();
-      }
-      EXPECT_EQ(number, raised);
+      EXPECT_EQ(support::NumberOfFailure([&] {
+                  instance.model->ExecuteMethodBody(*kernel, *instance.components, "TEST", {},
+                                                    inAbort);
+                }),
+                raised);
       EXPECT_EQ(instance.Get("level")->Value().ToDouble(), 2.5);  // undone
     };
     run(true);

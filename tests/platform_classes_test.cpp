@@ -6,35 +6,26 @@
 #include "platform/ComponentClasses.h"
 #include "platform/Plugin.h"
 #include "plugins/Widget.h"
+#include "support/FailureOf.h"
 #include "support/TempFolder.h"
 
 namespace platform {
 namespace {
 
+using support::FailureOf;
+using support::NumberOfFailure;
 using testing::AllOf;
 using testing::HasSubstr;
 
 class Plain : public Object {};
 
-// Number and description of what `action` raises.
-template <typename Action>
-std::pair<ErrorNumber, std::string> FailureOf(Action action) {
-  try {
-    action();
-  } catch (const Failure& failure) {
-    return {failure.Number(), failure.Description()};
-  }
-  ADD_FAILURE() << "nothing was raised";
-  return {};
-}
-
 struct ComponentClassesTest : testing::Test {
   ComponentClasses classes;
 
   std::string WhyNot(std::string_view className) {
-    const auto [number, text] = FailureOf([&] { classes.Create(className); });
-    EXPECT_EQ(number, ErrorNumber::CannotCreateObject) << text;
-    return text;
+    const Failure failure = FailureOf([&] { classes.Create(className); });
+    EXPECT_EQ(failure.Number(), ErrorNumber::CannotCreateObject) << failure.Description();
+    return failure.Description();
   }
 };
 
@@ -42,7 +33,7 @@ TEST_F(ComponentClassesTest, CreatesRegisteredClassesWithoutRegardToCase) {
   classes.Register("Lib.Plain", [] { return std::make_shared<Plain>(); });
   EXPECT_NE(classes.CreateAs<Plain>("LIB.plain"), nullptr);
   EXPECT_NE(classes.Create("Lib.Plain"), classes.Create("Lib.Plain"));
-  EXPECT_EQ(FailureOf([&] { classes.CreateAs<IWidget>("Lib.Plain"); }).first,
+  EXPECT_EQ(NumberOfFailure([&] { classes.CreateAs<IWidget>("Lib.Plain"); }),
             ErrorNumber::TypeMismatch);
   EXPECT_THAT(WhyNot("Lib.Other"), AllOf(HasSubstr("Lib.Other"), HasSubstr("no such class")));
   EXPECT_EQ(classes.RegisteredNames(), std::vector<std::string>{"Lib.Plain"});
@@ -56,8 +47,7 @@ TEST_F(ComponentClassesTest, FactoryFailures) {
     throw std::runtime_error("foreign failure");
   });
   classes.Register("Lib.Empty", []() -> std::shared_ptr<Object> { return nullptr; });
-  EXPECT_EQ(FailureOf([&] { classes.Create("Lib.Failing"); }),
-            std::pair(ErrorNumber::Unexpected, std::string("own failure")));
+  EXPECT_EQ(FailureOf([&] { classes.Create("Lib.Failing"); }).Description(), "own failure");
   EXPECT_EQ(WhyNot("Lib.Throwing"), "foreign failure");
   EXPECT_THAT(WhyNot("Lib.Empty"), HasSubstr("no object"));
 }
@@ -65,7 +55,7 @@ TEST_F(ComponentClassesTest, FactoryFailures) {
 TEST_F(ComponentClassesTest, RefusesNamesOfAnotherForm) {
   for (const char* name : {"", ".", "Lib", "Lib.", ".Class"}) {
     EXPECT_EQ(
-        FailureOf([&] { classes.Register(name, [] { return std::make_shared<Plain>(); }); }).first,
+        NumberOfFailure([&] { classes.Register(name, [] { return std::make_shared<Plain>(); }); }),
         ErrorNumber::InvalidArgument)
         << name;
   }
@@ -114,12 +104,12 @@ TEST_F(ComponentClassesTest, MissingAndDamagedPlugins) {
 }
 
 TEST_F(ComponentClassesTest, RelativePathsAreRefused) {
-  EXPECT_EQ(FailureOf([&] {
+  EXPECT_EQ(NumberOfFailure([&] {
               classes.SetPluginPath({"/tmp", "plugins"});
-            }).first,
+            }),
             ErrorNumber::InvalidArgument);
   EXPECT_TRUE(classes.PluginPath().empty());
-  EXPECT_EQ(FailureOf([&] { classes.LoadPlugin("libgood.so"); }).first,
+  EXPECT_EQ(NumberOfFailure([&] { classes.LoadPlugin("libgood.so"); }),
             ErrorNumber::InvalidArgument);
 }
 

@@ -1,9 +1,9 @@
 #include <gtest/gtest.h>
 
-#include "platform/Failure.h"
 #include "platform/ProfileFile.h"
 #include "platform/Registry.h"
 #include "platform/TextFile.h"
+#include "support/FailureOf.h"
 #include "support/TempFolder.h"
 
 namespace platform {
@@ -11,17 +11,7 @@ namespace {
 
 namespace fs = std::filesystem;
 using namespace std::string_literals;
-
-template <typename Action>
-Failure FailureOf(Action action) {
-  try {
-    action();
-  } catch (const Failure& failure) {
-    return failure;
-  }
-  ADD_FAILURE() << "nothing was raised";
-  return {ErrorNumber{0}, ""};
-}
+using support::FailureOf;
 
 std::size_t FilesIn(const fs::path& folder) {
   return static_cast<std::size_t>(

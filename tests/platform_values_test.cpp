@@ -11,28 +11,6 @@
 namespace platform {
 namespace {
 
-TEST(Failure, TextsAndNumbers) {
-  const struct {
-    ErrorNumber number;
-    const char *text, *shown;
-  } table[] = {
-      {ErrorNumber::InvalidProcedureCall, "Invalid procedure call or argument", "5"},
-      {ErrorNumber::TypeMismatch, "Type mismatch", "13"},
-      {ErrorNumber::CannotCreateObject, "Component can't create object", "429"},
-      {ErrorNumber::DuplicateKey,
-       "This key is already associated with an element of this collection", "457"},
-      {ErrorNumber::NotImplemented, "Not implemented", "-2147467263"},
-      {ErrorNumber::InvalidArgument, "The parameter is incorrect", "-2147024809"},
-      {ErrorNumber::Unexpected, "Catastrophic failure", "-2147418113"},
-      {ErrorNumber{0x80040200}, "Automation error", "-2147220992"},
-  };
-  for (const auto& row : table) {
-    EXPECT_EQ(Failure(row.number, "here").Description(), row.text);
-    EXPECT_EQ(NumberText(row.number), row.shown);
-  }
-  EXPECT_EQ(Failure(ErrorNumber::Overflow, "here", "too far").Description(), "too far");
-}
-
 TEST(Failure, ForeignExceptionsBecomeFailuresAndOnlyFailuresAreIgnored) {
   const auto broken = [] { throw std::out_of_range("row 9"); };
   EXPECT_EQ(CallForeign("control", [] { return 7; }), 7);

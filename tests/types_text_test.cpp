@@ -55,13 +55,5 @@ TEST(TextKeyTest, FoldsLettersOfManyAlphabets) {
   for (const auto& [a, b] : different) EXPECT_FALSE(SameKey(a, b)) << a;
 }
 
-TEST(TextKeyTest, RemembersTheNameAsWritten) {
-  const TextKey key = TextKey::Of("Mixed_Case");
-  EXPECT_EQ(key.Name(), "Mixed_Case");
-  EXPECT_EQ(TextKey::Of("MIXED_case").Name(), "MIXED_case");
-  EXPECT_EQ(key.Hash(), TextKey::Of("MIXED_case").Hash());
-  EXPECT_TRUE(TextKey::Of("").IsEmpty());
-}
-
 }  // namespace
 }  // namespace ZAFHartTypes
