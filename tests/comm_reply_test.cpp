@@ -1,9 +1,13 @@
+#include "linksim/EchoLink.h"
 #include "support/CommTest.h"
-#include "types/Failure.h"
+#include "support/FailureOf.h"
+#include "support/RecordingControl.h"
 
 // What goes into an exchange, and what a reply does to the variables.
 namespace test_support {
 namespace {
+
+using support::NumberOfFailure;
 
 std::shared_ptr<Variable> Pv(Variant value = {}) {
   return MakeVariable("pv", TypeCode::Float, 4, std::move(value));
@@ -156,12 +160,9 @@ TEST_F(CommTest, NamedValues) {
 TEST_F(CommTest, WhatCannotBeSentIsNamed) {
   for (const bool inRequest : {true, false}) {
     const DataItemList items{BoundItem("bits", TypeCode::BitString, 2)};
-    try {
-      Execute(inRequest ? items : DataItemList(), inRequest ? DataItemList() : items);
-      ADD_FAILURE();
-    } catch (const Failure& failure) {
-      EXPECT_NE(failure.Description().find("\"bits\""), std::string::npos);
-    }
+    const Failure failure = support::FailureOf(
+        [&] { Execute(inRequest ? items : DataItemList(), inRequest ? DataItemList() : items); });
+    EXPECT_NE(failure.Description().find("\"bits\""), std::string::npos);
   }
   EXPECT_THROW(comm->ExecuteCommand(3, nullptr), Failure);
   EXPECT_TRUE(link->requests.empty());
@@ -218,6 +219,33 @@ TEST_F(CommTest, LiveValuesThatCannotDrift) {
   const auto unanswered = live(Pv(12.0F));
   Execute({}, {BoundItem(unanswered)}, "-");
   EXPECT_EQ(unanswered->Value(), Variant(12.0F));
+}
+
+TEST_F(CommTest, LinksByClassName) {
+  comm->SetLink(nullptr);
+  EXPECT_EQ(comm->LinkClass(), "HartLinkSim.EchoLink");
+  EXPECT_EQ(NumberOfFailure([&] { Execute({}, {}); }), ErrorNumber::CannotCreateObject);
+  platform.Classes().Register("HartLinkSim.EchoLink",
+                              [] { return std::make_shared<HartLinkSim::EchoLink>(); });
+  const auto pv = Pv(12.5F);
+  EXPECT_TRUE(Execute({}, {BoundItem(pv)}));
+  EXPECT_EQ(pv->Value(), Variant(12.5F));
+  comm->SetLinkClass("Vendor.Modem");
+  EXPECT_EQ(NumberOfFailure([&] { Execute({}, {}); }), ErrorNumber::CannotCreateObject);
+}
+
+TEST(ErrorDisplay, IsHiddenAgainAndAnErrorMayBeAnswered) {
+  for (const auto& [severity, answer, failed, delay, hidden] :
+       {std::tuple(ErrorSeverity::Error, -2, true, -1, 0U),
+        {ErrorSeverity::Critical, 0, true, 300, 0U},
+        {ErrorSeverity::Error, 4, false, -1, 1U},
+        {ErrorSeverity::Critical, 5, true, 300, 1U}}) {
+    RecordingControl gui;
+    gui.messageAnswer = answer;
+    EXPECT_EQ(ShowError(gui, severity, 1006, {}), failed);
+    EXPECT_EQ(gui.userMessages.back().delay, delay);
+    EXPECT_EQ(gui.hiddenMessages.size(), hidden);
+  }
 }
 
 }  // namespace

@@ -1,13 +1,15 @@
 #include <gmock/gmock.h>
 
-#include "linksim/EchoLink.h"
+#include <algorithm>
+
 #include "support/CommTest.h"
-#include "types/Failure.h"
+#include "support/FailureOf.h"
 
 // Local completion, the online state, addresses, waiting, and asynchronous execution.
 namespace test_support {
 namespace {
 
+using support::NumberOfFailure;
 using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::SizeIs;
@@ -15,25 +17,14 @@ using testing::SizeIs;
 struct CommWrapperTest : CommTest {
   std::shared_ptr<Variable> pv = MakeVariable("pv", TypeCode::Float, 4, 12.5F);
 
-  // The number of a Failure that `action` raises; 0 for none.
-  template <typename Action>
-  static std::int64_t FailureOf(Action action) {
-    try {
-      action();
-      return 0;
-    } catch (const Failure& failure) {
-      return static_cast<std::int64_t>(failure.Number());
-    }
-  }
   std::shared_ptr<CommandRef> NewReference(std::int16_t number) {
     auto command = MakeObject<Command>("async_" + std::to_string(number));
     command->SetNumber(number);
     command->Transactions().Put(MakeTransaction({}, {BoundItem(pv)}));
     return std::make_shared<CommandRef>(command, std::int16_t{0});
   }
-  std::size_t Finished() {
-    return static_cast<std::size_t>(std::count(Gui().lifeSignals.begin(), Gui().lifeSignals.end(),
-                                               LifeSignalCode::ExchangeFinished));
+  std::ptrdiff_t Finished() {
+    return std::ranges::count(Gui().lifeSignals, LifeSignalCode::ExchangeFinished);
   }
 };
 
@@ -97,6 +88,11 @@ TEST_F(AddressTest, InitializeBuildsTheConnectionMenu) {
   EXPECT_EQ(Stored("__ZAF__DTMOnlineState"), Variant(100));
   comm->SetEmulate(true);
   EXPECT_EQ(Address(), "5/PT 101/");
+  comm->SetAddressInformation(7, "NEW", "A1");
+  EXPECT_EQ(Address(), "7/NEW/A1");
+  EXPECT_EQ(Stored("tag"), Variant("NEW"));
+  const auto tag = database->ReadObject(Definition::Define("tag", ObjectKind::Variable));
+  EXPECT_FALSE(tag->MakeVariable()->ToBeWritten());
 }
 
 TEST_F(AddressTest, InitializeFindsTheVariablesOfCommands6And13) {
@@ -117,17 +113,6 @@ TEST_F(AddressTest, InitializeFindsTheVariablesOfCommands6And13) {
   comm->SetEmulate(true);
   EXPECT_EQ(Address(), "9/X/");
   EXPECT_THAT(Gui().evaluationErrors, IsEmpty());
-}
-
-TEST_F(AddressTest, SetAddressInformationStoresWithoutWriting) {
-  AddAddressVariables();
-  comm->Initialize();
-  comm->SetAddressInformation(7, "NEW", "A1");
-  EXPECT_EQ(Stored("polling_address"), Variant(7));
-  EXPECT_EQ(Stored("tag"), Variant("NEW"));
-  const auto tag = database->ReadObject(Definition::Define("tag", ObjectKind::Variable));
-  EXPECT_FALSE(tag->MakeVariable()->ToBeWritten());
-  EXPECT_EQ(Address(), "7/NEW/A1");
 }
 
 TEST_F(AddressTest, Command0TellsTheLongAddress) {
@@ -179,40 +164,8 @@ TEST_F(AddressTest, ALongAddressThatCannotBeLearnt) {
   EXPECT_EQ(comm->LastResult(), 0);
   link->onExecute = [] { throw Failure(ErrorNumber::Unexpected, "Link", "gone"); };
   EXPECT_EQ(Address(), "0//");
-  EXPECT_EQ(FailureOf([&] { Execute({}, {}); }), 0x8000FFFF);
+  EXPECT_EQ(NumberOfFailure([&] { Execute({}, {}); }), ErrorNumber::Unexpected);
   EXPECT_THAT(Gui().messages, SizeIs(1));
-}
-
-TEST(ErrorDisplay, SeverityAndAnswer) {
-  struct AskingGui : StubGui {
-    std::int32_t ShowUserMessage(UserMessage& message) override {
-      shown = message;
-      return StubGui::ShowUserMessage(message);
-    }
-    void HideUserMessage(std::int32_t id) override { hiddenId = id; }
-    UserMessage shown;
-    std::int32_t hiddenId = 0;
-  } gui;
-  struct {
-    ErrorSeverity severity;
-    std::int32_t answer;
-    bool failed;
-    std::int32_t title, delay, hiddenId;
-  } const cases[] = {{ErrorSeverity::Error, -2, true, 11001, -1, 0},
-                     {ErrorSeverity::Critical, 0, true, 11003, 300, 0},
-                     {ErrorSeverity::Error, 4, false, 11001, -1, 4},
-                     {ErrorSeverity::Critical, 5, true, 11003, 300, 5}};
-  PromptValues values;
-  values.Set("s", "48");
-  for (const auto& test : cases) {
-    gui.messageAnswer = test.answer;
-    EXPECT_EQ(ShowError(gui, test.severity, 1006, values), test.failed);
-    EXPECT_EQ(gui.shown.title, ResText(test.title));
-    EXPECT_EQ(gui.shown.help, ResText(test.title + 1));
-    EXPECT_NE(gui.shown.prompt.find("\"48\""), std::string::npos);
-    EXPECT_EQ(gui.shown.delay, test.delay);
-    EXPECT_EQ(gui.hiddenId, test.hiddenId);
-  }
 }
 
 TEST_F(CommWrapperTest, AWaitSendsLifeSignalsAndHoldsTheLock) {
@@ -235,8 +188,7 @@ TEST_F(CommWrapperTest, CancelEndsTheWait) {
     link->ignoresCancel = ignored;
     const auto user = platform.Loop().StartOnce(platform::Milliseconds{30},
                                                 [&] { EXPECT_TRUE(comm->CancelExchange()); });
-    EXPECT_EQ(FailureOf([&] { Execute({}, {BoundItem(pv)}); }),
-              static_cast<std::int64_t>(ErrorNumber::Cancelled));
+    EXPECT_EQ(NumberOfFailure([&] { Execute({}, {BoundItem(pv)}); }), ErrorNumber::Cancelled);
     EXPECT_FALSE(Gui().IsUILocked());
     EXPECT_FALSE(pv->Available());
     EXPECT_FALSE(comm->CancelExchange());
@@ -252,7 +204,8 @@ TEST_F(CommWrapperTest, TearDownInTheWaitEndsTheOperation) {
   });
   const auto waiting = comm.get();
   transaction = MakeTransaction({}, {BoundItem(pv)});
-  EXPECT_EQ(FailureOf([&] { waiting->ExecuteCommand(3, transaction); }), 91);
+  EXPECT_EQ(NumberOfFailure([&] { waiting->ExecuteCommand(3, transaction); }),
+            ErrorNumber::ObjectNotSet);
   EXPECT_EQ(link->cancels, 1);
   EXPECT_FALSE(pv->Available());
 }
@@ -274,18 +227,6 @@ TEST_F(CommWrapperTest, ACommandInTheWaitOfAnother) {
   EXPECT_EQ(Status(), "000000");
 }
 
-TEST_F(CommWrapperTest, LinksByClassName) {
-  comm->SetLink(nullptr);
-  EXPECT_EQ(comm->LinkClass(), "HartLinkSim.EchoLink");
-  EXPECT_EQ(FailureOf([&] { Execute({}, {}); }), 429);
-  platform.Classes().Register("HartLinkSim.EchoLink",
-                              [] { return std::make_shared<HartLinkSim::EchoLink>(); });
-  EXPECT_TRUE(Execute({}, {BoundItem(pv)}));
-  EXPECT_EQ(pv->Value(), Variant(12.5F));
-  comm->SetLinkClass("Vendor.Modem");
-  EXPECT_EQ(FailureOf([&] { Execute({}, {}); }), 429);
-}
-
 TEST_F(CommWrapperTest, AsynchronousExchangesCompleteOnePerTickInOrder) {
   const auto first = NewReference(1);
   const auto second = NewReference(2);
@@ -296,7 +237,7 @@ TEST_F(CommWrapperTest, AsynchronousExchangesCompleteOnePerTickInOrder) {
   Advance(10);
   EXPECT_THAT(kernel->ended, ElementsAre(first));
   EXPECT_TRUE(first->ReferredTransaction()->Completed());
-  EXPECT_EQ(Finished(), 1U);
+  EXPECT_EQ(Finished(), 1);
   Advance(10);
   EXPECT_THAT(kernel->ended, ElementsAre(first, second));
   EXPECT_FALSE(second->ReferredTransaction()->Completed());
@@ -313,18 +254,19 @@ TEST_F(CommWrapperTest, AsynchronousLocalCompletion) {
   Advance(10);
   EXPECT_TRUE(pv->Available());
   EXPECT_EQ(Status() + std::to_string(comm->LastResult()), "0000000");
-  EXPECT_EQ(Finished(), 1U);
+  EXPECT_EQ(Finished(), 1);
 }
 
 TEST_F(CommWrapperTest, AsynchronousFailures) {
   kernel->fails = true;
   comm->AsyncExecuteCommand(NewReference(1));
   Advance(10);
-  EXPECT_EQ(Finished(), 1U);  // signalled all the same
+  EXPECT_EQ(Finished(), 1);  // signalled all the same
   // Without a window the completion runs at once, and the failure reaches the link's event.
   comm->Asynchronizer().SetCanBeShown(false);
-  EXPECT_EQ(FailureOf([&] { comm->AsyncExecuteCommand(NewReference(2)); }), 0x8000FFFF);
-  EXPECT_EQ(Finished(), 2U);
+  EXPECT_EQ(NumberOfFailure([&] { comm->AsyncExecuteCommand(NewReference(2)); }),
+            ErrorNumber::Unexpected);
+  EXPECT_EQ(Finished(), 2);
   // A start that fails leaves nothing behind.
   comm->Asynchronizer().SetCanBeShown(true);
   kernel->ended.clear();
@@ -332,8 +274,10 @@ TEST_F(CommWrapperTest, AsynchronousFailures) {
     link->last->Finish(ExchangeState::NoReply, ExchangeResult::None);
     throw Failure(ErrorNumber::Unexpected, "Link", "gone");
   };
-  EXPECT_EQ(FailureOf([&] { comm->AsyncExecuteCommand(NewReference(3)); }), 0x8000FFFF);
-  EXPECT_EQ(FailureOf([&] { comm->AsyncExecuteCommand(nullptr); }), 0x80070057);
+  EXPECT_EQ(NumberOfFailure([&] { comm->AsyncExecuteCommand(NewReference(3)); }),
+            ErrorNumber::Unexpected);
+  EXPECT_EQ(NumberOfFailure([&] { comm->AsyncExecuteCommand(nullptr); }),
+            ErrorNumber::InvalidArgument);
   Advance(10);
   EXPECT_THAT(kernel->ended, IsEmpty());
 }
@@ -345,7 +289,7 @@ TEST_F(CommWrapperTest, TearDownEndsAsynchronousExchanges) {
   EXPECT_EQ(link->cancels, 1);
   Advance(100);
   EXPECT_THAT(kernel->ended, IsEmpty());
-  EXPECT_EQ(Finished(), 0U);
+  EXPECT_EQ(Finished(), 0);
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 
 #include "components/CSecureKernel.h"
 #include "support/WorkerDbFixture.h"
+#include "trace/CEmptyErrorHandler.h"
 
 namespace {
 
@@ -22,9 +23,6 @@ class SecureKernel : public WorkerDbFixture {
 
 // Every operation fails with its own name as the source.
 class FailingKernel : public StubKernel, public IDDKernel2 {
-  template <typename T>
-  using Ptr = std::shared_ptr<T>;
-
  public:
   ErrorNumber number = ErrorNumber::InvalidProcedureCall;
 
@@ -93,21 +91,14 @@ TEST_F(SecureKernel, LeavesTheUsersBreakToTheCaller) {
   const auto failing = std::make_shared<FailingKernel>();
   failing->number = ErrorNumber::Cancelled;
   components->kernel = failing;
-  EXPECT_EQ(FailureOf([&] { secure->ReadVariable(VariableNamed("a")); }), ErrorNumber::Cancelled);
+  EXPECT_EQ(NumberOfFailure([&] { secure->ReadVariable(VariableNamed("a")); }),
+            ErrorNumber::Cancelled);
   EXPECT_THAT(gui->evaluationErrors, IsEmpty());
 }
 
 // Every member but DataModel: the failure is reported, the flags are cleared, the error handler is
 // gone, the answer is empty.
 TEST_F(SecureKernel, TrapsEveryMember) {
-  struct Handler : IDDErrorHandler {
-    std::int32_t ObjectError(const std::shared_ptr<DDObject>&, ItemIndex) override { return 1; }
-    std::int32_t ResponseCodeError(const CommandStatus&,
-                                   const std::shared_ptr<CommandRef>&) override {
-      return 1;
-    }
-    std::int32_t EvaluationError(const std::string&) override { return 1; }
-  };
   const Definition def = VariableNamed("a");
   const Definition command = Definition::Define("command", ObjectKind::Command);
   DataItemList items;
@@ -165,7 +156,7 @@ TEST_F(SecureKernel, TrapsEveryMember) {
     database->SetCommandInRecursion(command, true);
     database->SetVariableInRecursion(def, true);
     database->SetVariableInReadRecursion(def, true);
-    gui->SetErrorHandler(std::make_shared<Handler>());
+    gui->SetErrorHandler(std::make_shared<ZAFHartLib::CEmptyErrorHandler>());
     gui->evaluationErrors.clear();
     EXPECT_TRUE(isEmpty());
     EXPECT_THAT(gui->evaluationErrors,
@@ -175,8 +166,8 @@ TEST_F(SecureKernel, TrapsEveryMember) {
     EXPECT_FALSE(database->IsVariableInRecursion(def));
     EXPECT_FALSE(database->IsVariableInReadRecursion(def));
   }
-  EXPECT_EQ(FailureOf([&] { k.DataModel(); }), ErrorNumber::InvalidProcedureCall);
-  EXPECT_EQ(FailureOf([&] { k.SetDataModel(nullptr); }), ErrorNumber::InvalidProcedureCall);
+  EXPECT_EQ(NumberOfFailure([&] { k.DataModel(); }), ErrorNumber::InvalidProcedureCall);
+  EXPECT_EQ(NumberOfFailure([&] { k.SetDataModel(nullptr); }), ErrorNumber::InvalidProcedureCall);
   secure->SetComponentModel(nullptr);
   gui->evaluationErrors.clear();
   EXPECT_EQ(secure->GetMenu(def), nullptr);

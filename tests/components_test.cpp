@@ -1,15 +1,16 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <functional>
 
 #include "gui/CDDDTMGUI.h"
+#include "support/FailureOf.h"
 #include "support/RecordingControl.h"
 #include "support/SmallDtm.h"
 
 namespace {
 
 using namespace ZAFHartTypes;
+using support::NumberOfFailure;
 using test_support::SmallDtm;
 using namespace std::chrono_literals;
 
@@ -17,15 +18,6 @@ void ExpectIdle(const SmallDtm& dtm) {
   EXPECT_EQ(dtm.ValueOf("__ZAF__ProgressValue"), Variant(-1.0));
   EXPECT_EQ(dtm.ValueOf("__ZAF__ProgressTitle"), Variant(""));
   EXPECT_FALSE(dtm.components->DDGUI()->IsUILocked());
-}
-
-ErrorNumber NumberOf(const std::function<void()>& action) {
-  try {
-    action();
-  } catch (const Failure& failure) {
-    return failure.Number();
-  }
-  return ErrorNumber{};
 }
 
 TEST(Components, InitializeWiresOneKernelAndOneOfEachSibling) {
@@ -45,7 +37,8 @@ TEST(Components, SecureKernelReportsWhatTheKernelRaises) {
   dynamic_cast<ZAFHartLib::CDDDTMGUI&>(*components.DDGUI()).SetMessageControl(messages);
   const auto unknown = Definition::Define("unknown", ObjectKind::Menu);
   const auto secure = components.DDKernelExtension();
-  EXPECT_EQ(NumberOf([&] { components.DDKernel()->GetMenu(unknown); }), ErrorNumber::ObjectNotSet);
+  EXPECT_EQ(NumberOfFailure([&] { components.DDKernel()->GetMenu(unknown); }),
+            ErrorNumber::ObjectNotSet);
   EXPECT_EQ(secure->GetMenu(unknown), nullptr);
   EXPECT_EQ(std::dynamic_pointer_cast<IDDKernel2>(secure)->AsyncStartMenu(unknown), nullptr);
   ASSERT_EQ(messages->userMessages.size(), 2U);
@@ -60,13 +53,9 @@ TEST(Components, ClassThatCannotBeCreatedIsNamed) {
   SmallDtm dtm;
   const auto components = ZAFHartLib::CDDComponents::Create();
   components->SetDataModelClass("Missing");
-  try {
-    components->Initialize();
-    FAIL();
-  } catch (const Failure& failure) {
-    EXPECT_EQ(failure.Number(), ErrorNumber::CannotCreateObject);
-    EXPECT_NE(failure.Description().find("Missing.KernelInformation"), std::string::npos);
-  }
+  const Failure failure = support::FailureOf([&] { components->Initialize(); });
+  EXPECT_EQ(failure.Number(), ErrorNumber::CannotCreateObject);
+  EXPECT_NE(failure.Description().find("Missing.KernelInformation"), std::string::npos);
   EXPECT_NE(components->DDKernel(), nullptr);  // created before the failure
   std::shared_ptr<DDObject> nothing;
   EXPECT_NE(dtm.components->DDBuiltinLib(nothing, "method"),
@@ -82,9 +71,9 @@ TEST(Components, TearDownReleasesTheComponentsAndTheirReferences) {
   EXPECT_NE(dtm.components->KernelInformation(), nullptr);
   EXPECT_EQ(kernel->ComponentModel(), nullptr);
   EXPECT_TRUE(database.expired());
-  EXPECT_EQ(
-      NumberOf([&] { kernel->ReadVariable(Definition::Define("tag", ObjectKind::Variable)); }),
-      ErrorNumber::ObjectNotSet);
+  EXPECT_EQ(NumberOfFailure(
+                [&] { kernel->ReadVariable(Definition::Define("tag", ObjectKind::Variable)); }),
+            ErrorNumber::ObjectNotSet);
 }
 
 TEST(Upload, BringsTheDeviceValuesAndWhatBecomesValid) {
@@ -95,9 +84,7 @@ TEST(Upload, BringsTheDeviceValuesAndWhatBecomesValid) {
   dtm.device->SetValue("limit", 77);
   dtm.device->SetValue("lower_range", 32.0F);
   dtm.Edit("lower_range", 5.0F);  // pending, given up
-  Definition menu;
-  dtm.components->Upload(menu);
-
+  const Definition menu = dtm.Upload();
   EXPECT_EQ(menu.Name(), "offline");
   EXPECT_EQ(menu.Kind(), ObjectKind::Menu);
   for (const char* name :
@@ -126,22 +113,17 @@ TEST(Upload, WithoutAMenuReadsEveryConfigurationVariable) {
 TEST(Upload, ReportsProgressAndKeepsTheViewsStill) {
   SmallDtm dtm;
   const auto gui = std::dynamic_pointer_cast<ZAFHartLib::CDDDTMGUI>(dtm.components->DDGUI());
-  const auto control = std::make_shared<test_support::RecordingControl>();
-  gui->RegisterCtrl(control);
-  std::vector<double> progress;
-  class Watch : public test_support::RecordingControl {
-   public:
+  struct Watch : test_support::RecordingControl {
     void ShowObject(const std::shared_ptr<DDObject>& object) override {
-      if (object->ObjectDefinition().Name() == "__ZAF__ProgressValue")
-        seen->push_back(object->MakeVariable()->Value().ToDouble());
+      if (object->ObjectDefinition().Name() != "__ZAF__ProgressValue") return;
+      progress.push_back(object->MakeVariable()->Value().ToDouble());
     }
-    std::vector<double>* seen = nullptr;
+    std::vector<double> progress;
   };
-  const auto watch = std::make_shared<Watch>();
-  watch->seen = &progress;
-  gui->RegisterCtrl(watch);
-  Definition menu;
-  dtm.components->Upload(menu);
+  const auto control = std::make_shared<Watch>();
+  gui->RegisterCtrl(control);
+  const std::vector<double>& progress = control->progress;
+  dtm.Upload();
   ASSERT_GE(progress.size(), 3U);
   EXPECT_TRUE(std::is_sorted(progress.begin(), progress.end() - 1));
   EXPECT_LE(progress[progress.size() - 2], 100.0);
@@ -158,13 +140,12 @@ TEST(Upload, LetsTimersRunAndEndsAtTheUsersBreak) {
   const auto timer = dtm.platform.Loop().StartTimer(10ms, [&] {
     if (++ticks == 5) dtm.components->CancelOperation();
   });
-  Definition menu;
-  EXPECT_EQ(NumberOf([&] { dtm.components->Upload(menu); }), ErrorNumber::Cancelled);
+  EXPECT_EQ(NumberOfFailure([&] { dtm.Upload(); }), ErrorNumber::Cancelled);
   EXPECT_GE(ticks, 5);
   EXPECT_LE(dtm.link->commands.size(), 3U);
   ExpectIdle(dtm);
   dtm.link->LinkFaults().Clear();
-  dtm.components->Upload(menu);  // the break is over
+  dtm.Upload();  // the break is over
   EXPECT_TRUE(dtm.Stored("locked")->Available());
 }
 
@@ -173,15 +154,13 @@ TEST(Upload, EndsWithAFailureWhenTheInstanceIsTornDownMeanwhile) {
   dtm.link->LinkFaults().Add("latency:30");
   const auto timer =
       dtm.platform.Loop().StartOnce(70ms, [&] { dtm.components->PrepareTermination(); });
-  Definition menu;
-  EXPECT_EQ(NumberOf([&] { dtm.components->Upload(menu); }), ErrorNumber::ObjectNotSet);
+  EXPECT_EQ(NumberOfFailure([&] { dtm.Upload(); }), ErrorNumber::ObjectNotSet);
   EXPECT_EQ(dtm.components->DDKernel(), nullptr);
 }
 
 TEST(WriteChanges, WritesEachVariableOnceAfterWhatItDependsOn) {
   SmallDtm dtm;
-  Definition menu;
-  dtm.components->Upload(menu);
+  dtm.Upload();
   dtm.link->commands.clear();
   dtm.Edit("upper_range", 200.0F);
   dtm.Edit("pv_unit", std::int16_t{33});
@@ -203,8 +182,7 @@ TEST(WriteChanges, WritesEachVariableOnceAfterWhatItDependsOn) {
 
 TEST(WriteChanges, WithNoDeviceStopsAndWritesTheRestLater) {
   SmallDtm dtm;
-  Definition menu;
-  dtm.components->Upload(menu);
+  dtm.Upload();
   dtm.Edit("mode", std::int16_t{1});
   dtm.Edit("first", std::int16_t{9});
   dtm.Edit("second", std::int16_t{9});
@@ -225,15 +203,14 @@ TEST(WriteChanges, WithNoDeviceStopsAndWritesTheRestLater) {
 
 TEST(WriteChanges, KeepsTheMarksOfWhatTheUsersBreakLeft) {
   SmallDtm dtm;
-  Definition menu;
-  dtm.components->Upload(menu);
+  dtm.Upload();
   for (const char* name : {"mode", "first", "second"}) dtm.Edit(name, std::int16_t{1});
   dtm.Edit("first", std::int16_t{4});
   dtm.Edit("second", std::int16_t{4});
   dtm.link->LinkFaults().Add("latency:30");
   const auto timer =
       dtm.platform.Loop().StartOnce(10ms, [&] { dtm.components->CancelOperation(); });
-  EXPECT_EQ(NumberOf([&] { dtm.components->WriteChanges(); }), ErrorNumber::Cancelled);
+  EXPECT_EQ(NumberOfFailure([&] { dtm.components->WriteChanges(); }), ErrorNumber::Cancelled);
   EXPECT_TRUE(dtm.IsPending("first"));
   EXPECT_TRUE(dtm.IsPending("second"));
   ExpectIdle(dtm);
@@ -242,8 +219,7 @@ TEST(WriteChanges, KeepsTheMarksOfWhatTheUsersBreakLeft) {
 TEST(WriteChanges, ACircleOfDependenciesEnds) {
   SmallDtm dtm;
   const auto database = dtm.components->DDWorkerDB();
-  Definition menu;
-  dtm.components->Upload(menu);
+  dtm.Upload();
   const Definition first = Definition::Define("first", ObjectKind::Variable);
   const Definition second = Definition::Define("second", ObjectKind::Variable);
   dtm.Edit("first", std::int16_t{4});
@@ -266,8 +242,7 @@ TEST(Download, WritesTheWritableItemsOfItsMenuAndNothingWithoutOne) {
   EXPECT_TRUE(dtm.methodsRun.empty());
   EXPECT_TRUE(dtm.link->commands.empty());
 
-  Definition menu;
-  dtm.components->Upload(menu);
+  Definition menu = dtm.Upload();
   dtm.device->SetValue("upper_range", 1.0F);
   dtm.device->SetValue("tag", "OTHER");
   dtm.device->SetValue("locked", 9);

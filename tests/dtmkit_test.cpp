@@ -1,6 +1,6 @@
 #include "dtmkit/dtmkit.h"
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 #include "builtins/CDDBuiltinLib.h"
 #include "support/ComputingKernel.h"
@@ -47,6 +47,21 @@ class Instance {
   DefinitionList commands;
   DefinitionList relations;
 };
+
+TEST(Catalogue, RefusesWhatContradictsItself) {
+  DeviceDescription dd;
+  dd.Variable("level").Float();
+  dd.Menu("setup");
+  const std::pair<std::function<void()>, const char*> cases[] = {
+      {[&] { dd.Menu("LEVEL"); }, "\"LEVEL\" twice"},
+      {[&] { dd.Variable("slot").Index(1, "nothing"); }, "nothing"},
+      {[&] { dd.OnCompute<Variable>("setup", {}); }, "setup"},  // of another kind
+      {[&] { dd.Command("read", 9, Operation::Read).Reply({Element("level", "slot")}); }, "level"},
+  };
+  for (const auto& [action, text] : cases) {
+    EXPECT_THAT(support::FailureOf(action).Description(), testing::HasSubstr(text));
+  }
+}
 
 void DescribeSlots(DeviceDescription& dd) {
   auto slots = dd.Array("slots");
@@ -127,21 +142,6 @@ TEST(DataModel, ConditionsFollowValues) {
       instance.model->ComputeVarValidity(*instance.kernel, *instance.components, "wires", wires));
 }
 
-TEST(DataModel, ListsCommandsAndRelations) {
-  DeviceDescription dd;
-  dd.Command("read", 1, Operation::Read);
-  dd.WriteAsOne("range").Members({"low", "high"});
-  dd.UnitRelation("units").Unit("unit").Dependents({"low", "high"});
-  dd.RefreshRelation("refresh").Triggers({"unit"}).Refreshes({"low"});
-  Instance instance(dd);
-  EXPECT_EQ(instance.commands.Describe(0), "(read)");
-  EXPECT_EQ(instance.relations.Count(), 3U);
-  const auto units = instance.Stored(instance.relations.Item(2))->MakeUnit();
-  ASSERT_NE(units, nullptr);
-  EXPECT_EQ(units->UnitVariable().Name(), "unit");
-  EXPECT_TRUE(units->DependentItems().Contains(VariableNamed("high")));
-}
-
 // Runs abort methods; the one called "first" fails.
 class AbortingKernel : public ComputingKernel {
  public:
@@ -217,17 +217,6 @@ TEST(MethodBody, IsEndedOnEveryWayOut) {
     run(false);
     EXPECT_EQ(kernel->runs, abortMethodsRun);
   }
-}
-
-TEST(MethodBuilder, DescribesValidity) {
-  DeviceDescription dd;
-  dd.Variable("level").Float().Default(2.5F);
-  dd.Method("test").ValidWhen([](Context& context) { return context.Number("level") > 3; });
-  Instance instance(dd);
-  instance.model->ExecuteMethodBody(*instance.kernel, *instance.components, "test", {}, false);
-  const auto method = instance.Stored(MethodNamed("test"))->MakeMethod();
-  EXPECT_FALSE(instance.model->ComputeMethodValidity(*instance.kernel, *instance.components, "test",
-                                                     method));
 }
 
 struct Throwing : platform::Object {

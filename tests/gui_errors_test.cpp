@@ -1,3 +1,4 @@
+#include "support/FailureOf.h"
 #include "support/GuiTest.h"
 
 namespace test_support {
@@ -116,13 +117,10 @@ TEST_F(ErrorsTest, CyclicEvaluationIsTracedAndRaised) {
   for (const auto& [index, text] :
        {std::pair(ItemIndex::CyclicVariable, "cyclic evaluation of variable"),
         {ItemIndex::CyclicCommand, "cyclic evaluation of command"}}) {
-    try {
-      gui->ObjectError(MakeObject<Command>("c"), index);
-      FAIL() << text;
-    } catch (const Failure& failure) {
-      EXPECT_EQ(failure.Number(), ErrorNumber::Unexpected);
-      EXPECT_EQ(failure.Description(), std::string("c:\r\n") + text);
-    }
+    const Failure failure =
+        support::FailureOf([&] { gui->ObjectError(MakeObject<Command>("c"), index); });
+    EXPECT_EQ(failure.Number(), ErrorNumber::Unexpected);
+    EXPECT_EQ(failure.Description(), std::string("c:\r\n") + text);
     EXPECT_THAT(tracer->TakeCalls(), testing::SizeIs(2));
   }
   EXPECT_TRUE(NothingShown());

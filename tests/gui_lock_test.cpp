@@ -1,5 +1,4 @@
 #include "gui/CLockObject.h"
-#include "gui/clsEventDispatcher.h"
 #include "gui/frmAsynchronizer.h"
 #include "support/GuiTest.h"
 
@@ -46,81 +45,23 @@ TEST_F(LockTest, LockObjectsReleaseWithTheirLastReference) {
   EXPECT_FALSE(gui->IsUILocked());
 }
 
-TEST_F(LockTest, NoRefreshWhileLocked) {
-  Advance(1000);
-  EXPECT_THAT(control->TakeCalls(), ElementsAre("CollectRefreshData"));
-  const std::int32_t lock = gui->SetUILock();
-  control->TakeCalls();
-  gui->SetComponentModel(components);
-  Advance(2000);
-  EXPECT_THAT(control->TakeCalls(), ElementsAre("SetComponentModel"));
-  gui->ReleaseUILock(lock);
-  control->TakeCalls();
-  Advance(200);
-  EXPECT_THAT(control->TakeCalls(), ElementsAre("CollectRefreshData"));
-}
-
-class Completion : public IExchangeCompletion {
- public:
-  void CompleteExchange(const std::shared_ptr<Exchange>& exchange) override {
-    numbers.push_back(exchange->CommandNumber());
-    if (form) form.reset();
-    throw Failure(ErrorNumber::Unexpected, "Completion");
-  }
-  std::vector<int> numbers;
-  std::unique_ptr<frmAsynchronizer> form;  // dies in the completion
-};
-
-class AsynchronizerWindowTest : public GuiTest {
- protected:
-  static std::shared_ptr<Exchange> Finished(std::int16_t number) {
-    auto exchange = std::make_shared<Exchange>();
-    exchange->SetCommandNumber(number);
-    return exchange;
-  }
-  std::shared_ptr<Completion> wrapper = std::make_shared<Completion>();
-};
-
-TEST_F(AsynchronizerWindowTest, CompletesOneExchangePerTick) {
-  frmAsynchronizer form;
-  EXPECT_FALSE(form.IsVisible() || form.TimerEnabled());
-  form.Show();
-  EXPECT_TRUE(form.IsVisible());
-  form.ExchangeQueue() = {Finished(3), Finished(1)};
-  form.EnableTimer();
-  Advance(9);
-  Advance(1);
-  EXPECT_THAT(wrapper->numbers, IsEmpty());  // no wrapper yet
-  form.SetCommWrapper(wrapper);
-  Advance(10);
-  EXPECT_THAT(wrapper->numbers, ElementsAre(3));
-  EXPECT_TRUE(form.TimerEnabled());
-  Advance(10);
-  EXPECT_THAT(wrapper->numbers, ElementsAre(3, 1));
-  EXPECT_FALSE(form.TimerEnabled());
-  form.SetCanBeShown(false);
-  EXPECT_FALSE(form.IsVisible());
-  EXPECT_THROW(form.Show(), Failure);
-}
-
-TEST_F(AsynchronizerWindowTest, MayDieInACompletion) {
-  wrapper->form = std::make_unique<frmAsynchronizer>();
+TEST_F(LockTest, AnAsynchronizerMayDieInACompletion) {
+  struct Completion : IExchangeCompletion {
+    void CompleteExchange(const std::shared_ptr<Exchange>&) override {
+      ++completed;
+      form.reset();
+      throw Failure(ErrorNumber::Unexpected, "Completion");
+    }
+    int completed = 0;
+    std::unique_ptr<frmAsynchronizer> form = std::make_unique<frmAsynchronizer>();
+  };
+  const auto wrapper = std::make_shared<Completion>();
   wrapper->form->SetCommWrapper(wrapper);
-  wrapper->form->ExchangeQueue() = {Finished(3), Finished(1)};
+  wrapper->form->ExchangeQueue() = {std::make_shared<Exchange>(), std::make_shared<Exchange>()};
   wrapper->form->EnableTimer();
   Advance(10);
   Advance(10);
-  EXPECT_THAT(wrapper->numbers, ElementsAre(3));
-}
-
-TEST_F(AsynchronizerWindowTest, DispatcherRunsWhatIsPending) {
-  int ran = 0;
-  const auto post = platform.Loop().Post([&] { ++ran; });
-  clsEventDispatcher dispatcher;
-  dispatcher.DoDispatch();
-  const auto timer = platform.Loop().StartTimer(platform::Milliseconds{15}, [&] { ++ran; });
-  dispatcher.WaitStep(platform::Milliseconds{20});
-  EXPECT_EQ(ran, 2);
+  EXPECT_EQ(wrapper->completed, 1);
 }
 
 }  // namespace

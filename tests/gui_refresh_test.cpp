@@ -99,12 +99,9 @@ TEST_F(RefreshTest, CollectsOncePerSecondWhileTheListIsEmpty) {
   control->TakeCalls();
   tracer->TakeCalls();
   Advance(1000);
-  EXPECT_THAT(
-      tracer->TakeCalls(),
-      ElementsAre("Text 2 m_tmrAsynchronizer_TimerEvent: Start CollectRefreshData", "Break 0 db",
-                  "Text 2 m_tmrAsynchronizer_TimerEvent: Finished CollectRefreshData "
-                  "Count(2)",
-                  "Break 0 db"));
+  EXPECT_THAT(tracer->TakeCalls(),
+              testing::Contains("Text 2 m_tmrAsynchronizer_TimerEvent: Finished CollectRefreshData "
+                                "Count(2)"));
   for (int tick = 0; tick < 10; ++tick) Advance(200);
   EXPECT_THAT(control->TakeCalls(), testing::Contains("CollectRefreshData").Times(1));
 }

@@ -2,7 +2,7 @@
 
 #include "linksim/ItemCoding.h"
 #include "support/CommItems.h"
-#include "types/Failure.h"
+#include "support/FailureOf.h"
 
 // Frames and the coding of item lists: values in, bytes out, and back.
 namespace HartLinkSim {
@@ -14,16 +14,6 @@ std::string Encoded(const DataItemList& items) {
   std::vector<Variant> values;
   for (const DataItem& item : items) values.push_back(item.Value());
   return EncodeItems(items, LayOut(items), values).HexText();
-}
-
-// What EncodeItems raises.
-std::string FailureText(const DataItemList& items) {
-  try {
-    Encoded(items);
-  } catch (const Failure& failure) {
-    return failure.Description();
-  }
-  return "none";
 }
 
 TEST(ItemCoding, EveryTypeThereAndBack) {
@@ -126,19 +116,9 @@ TEST(ItemCoding, FailuresNameTheVariable) {
       {DataItem::Constant(std::int32_t{300}), {"constant", "\"300\"", "fit"}},
   };
   for (const auto& test : cases) {
-    const std::string text = FailureText({test.item});
+    const std::string text = support::FailureOf([&] { Encoded({test.item}); }).Description();
     for (const char* part : test.parts) EXPECT_NE(text.find(part), std::string::npos) << text;
   }
-}
-
-TEST(Frame, StretchesAndBits) {
-  Frame frame;
-  frame.SetUnsigned(2, 2, 0xFE01);
-  EXPECT_EQ(frame.HexText(2, 1), "FE");
-  frame.SetBits(3, 0x0C, 1, 2);
-  EXPECT_EQ(frame.HexText(), "0000FE09");
-  EXPECT_EQ(Frame::BitText(0x05, 8), "10100000");
-  EXPECT_THROW(frame.Unsigned(3, 2), Failure);
 }
 
 }  // namespace

@@ -7,8 +7,8 @@
 #include "linksim/ValueText.h"
 #include "platform/Platform.h"
 #include "support/CommItems.h"
+#include "support/FailureOf.h"
 #include "support/TempFolder.h"
-#include "types/Failure.h"
 
 // The emulated device: bytes in, bytes out, and its file.
 namespace HartLinkSim {
@@ -161,12 +161,7 @@ struct DeviceFileTest : DeviceTest {
 
   std::string WhyNot(const char* content) {
     const auto path = folder.Write("broken.txt", content);
-    std::string reason = "none";
-    try {
-      device->UseFile(path);
-    } catch (const Failure& failure) {
-      reason = failure.Description();
-    }
+    const std::string reason = support::FailureOf([&] { device->UseFile(path); }).Description();
     EXPECT_EQ(TempFolder::Read(path), content);
     return reason;
   }

@@ -2,9 +2,9 @@
 
 #include "linksim/DeviceLink.h"
 #include "linksim/EchoLink.h"
-#include "platform/Platform.h"
 #include "support/CommItems.h"
-#include "types/Failure.h"
+#include "support/FailureOf.h"
+#include "support/TestPlatform.h"
 
 // Faults as texts, and what each of them does to an exchange over either link.
 namespace HartLinkSim {
@@ -33,13 +33,9 @@ TEST(Faults, WrongTextsAreExplained) {
       {"comm-error:0xG", "1 to 255"},   {"latency:-1", "0 to 600000"},
       {"response:5:", "is no number"}};
   for (const auto& [text, reason] : cases) {
-    try {
-      ParseFault(text);
-      ADD_FAILURE() << text;
-    } catch (const Failure& failure) {
-      EXPECT_NE(failure.Description().find(reason), std::string::npos) << failure.Description();
-      EXPECT_NE(failure.Description().find("wrong-command[:COUNT]"), std::string::npos);
-    }
+    const std::string told = support::FailureOf([&] { ParseFault(text); }).Description();
+    EXPECT_NE(told.find(reason), std::string::npos) << told;
+    EXPECT_NE(told.find("wrong-command[:COUNT]"), std::string::npos);
   }
 }
 
@@ -56,10 +52,7 @@ TEST(Faults, CountsRunOutOneAfterTheOther) {
   EXPECT_EQ(faults.Next().latency, platform::Milliseconds{5});
 }
 
-struct LinkTest : testing::TestWithParam<const char*> {
-  platform::Platform platform{std::make_unique<platform::ManualClock>()};
-  platform::PlatformScope scope{platform};
-
+struct LinkTest : testing::TestWithParam<const char*>, TestPlatform {
   std::unique_ptr<SimulatedLink> NewLink() const {
     if (GetParam() == std::string("echo")) return std::make_unique<EchoLink>();
     return std::make_unique<DeviceLink>(std::make_shared<EmulatedDevice>());
@@ -70,10 +63,6 @@ struct LinkTest : testing::TestWithParam<const char*> {
                                        {BoundItem("mode", TypeCode::Unsigned, 1)});
     transaction->EditResponseCodes().Add({9, ResponseCodeType::MiscWarning, "a warning here"});
     return MakeExchange(99, transaction, "05", "000005");
-  }
-  void Advance(int milliseconds) {
-    platform.GetClock().Sleep(platform::Milliseconds{milliseconds});
-    platform.Loop().Pump();
   }
 };
 

@@ -148,9 +148,15 @@ class FakeHost : public HostLoop {
     ran.push_back(until);
     clock_.Advance(std::min(until - clock_.Now(), longestSleep));
   }
+  bool OnDescriptorsChanged(std::span<const WatchedDescriptor> descriptors) override {
+    watched = descriptors.size();
+    return watches;
+  }
   std::vector<std::optional<Milliseconds>> armed;
   std::vector<Milliseconds> ran;
   Milliseconds longestSleep{1000};
+  bool watches = false;
+  std::size_t watched = 0;
 
  private:
   ManualClock& clock_;
@@ -245,19 +251,8 @@ TEST_F(PipeTest, AHandlerThatWaitsOrCancelsItselfIsNotEntered) {
   EXPECT_FALSE(loop->RunReady());
 }
 
-struct WatchingHost : HostLoop {
-  bool watches = false;
-  std::size_t watched = 0;
-  void OnNextDueChanged() override {}
-  void RunHostEvents(Milliseconds) override {}
-  bool OnDescriptorsChanged(std::span<const WatchedDescriptor> descriptors) override {
-    watched = descriptors.size();
-    return watches;
-  }
-};
-
 TEST_F(PipeTest, AHostWatchesOrTheLoopLooksEveryTenMilliseconds) {
-  WatchingHost host;
+  FakeHost host(clock, *loop);
   auto reader = loop->Watch(Reader(), Take('r'));
   loop->SetHostLoop(&host);
   EXPECT_EQ(host.watched, 1U);

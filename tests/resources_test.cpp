@@ -9,30 +9,6 @@
 namespace ZAFHartLib {
 namespace {
 
-TEST(ResTextTest, GivesTheGivenTextsLetterForLetter) {
-  struct Case {
-    std::int32_t id;
-    const char* english;
-    const char* german;
-  };
-  const Case cases[] = {
-      {100, "Process Aborted", "Vorgang abgebrochen"},
-      {1000, "Variable \"%{s}\" not defined!", "Variable \"%{s}\" not defined!"},
-      {1107, "Message Time-out", "Nachr. Zeit-aus"},
-      {1202, "impossibe to communicate with device", "Kommunikation mit dem Gerät gescheitert"},
-      {1209, "edit item must be variable or write-as-one relation",
-       "edit item must be variable or write-as-one relation"},
-      {1213, "variable cannot be currently edited", "Variable kann momentan nicht editiert werden"},
-      {1707, "In write protect mode", "Schreibschutz aktiv"},
-      {1900, "DTM Internal Error!", "DTM interner Fehler!"},
-      {3100, "Waiting ...", "Warte ..."},
-      {11005, "Message", "Nachricht"}};
-  for (const Case& entry : cases) {
-    EXPECT_EQ(LangText(ResText(entry.id), "en"), entry.english);
-    EXPECT_EQ(LangText(ResText(entry.id), "de"), entry.german);
-  }
-}
-
 TEST(ResTextTest, GivesNothingForUnknownNumbers) {
   for (const std::int32_t id : {-1, 0, 99, 1102, 1708, 12000, INT32_MAX}) {
     EXPECT_EQ(ResText(id), "") << id;

@@ -4,24 +4,17 @@
 
 #include <limits>
 
-#include "platform/Platform.h"
-#include "settings/GuidText.h"
 #include "settings/Interval.h"
 #include "settings/NotFinite.h"
+#include "support/TestPlatform.h"
 
 namespace ZAFHartLib {
 namespace {
 
-class SettingsTest : public testing::Test {
- protected:
-  SettingsTest() : scope_(platform_) {}
+struct SettingsTest : testing::Test, test_support::TestPlatform {
   void Set(const std::string& key, std::string_view name, const std::string& value) {
-    platform_.Registry().SetValue(key, name, value);
+    platform.Registry().SetValue(key, name, value);
   }
-
-  platform::ManualClock* clock_ = new platform::ManualClock;
-  platform::Platform platform_{std::unique_ptr<platform::Clock>(clock_)};
-  platform::PlatformScope scope_;
   const std::string dtms_{kDtmsKey};
 };
 
@@ -47,14 +40,13 @@ TEST_F(SettingsTest, LoadsShowDDInformationOncePerThread) {
   Set(dtms_, kShowDDInformation, "0");
   EXPECT_TRUE(ShowDDInformation()) << "loaded before";
   platform::Platform other;
-  const platform::PlatformScope scope(other);
+  const platform::PlatformScope scopeOfOther(other);
   other.Registry().SetValue(kDtmsKey, kShowDDInformation, "0");
   EXPECT_FALSE(ShowDDInformation());
-}
-
-TEST_F(SettingsTest, ShowDDInformationThatIsNoNumberCountsAsTrue) {
-  Set(dtms_, kShowDDInformation, "no");
-  EXPECT_TRUE(ShowDDInformation());
+  platform::Platform third;
+  const platform::PlatformScope scopeOfThird(third);
+  third.Registry().SetValue(kDtmsKey, kShowDDInformation, "no");
+  EXPECT_TRUE(ShowDDInformation()) << "which is no number";
 }
 
 TEST_F(SettingsTest, FindsUseErrorHandlerDirectlyOrOneLevelDeeper) {
@@ -69,23 +61,13 @@ TEST_F(SettingsTest, FindsUseErrorHandlerDirectlyOrOneLevelDeeper) {
 TEST_F(SettingsTest, IntervalElapses) {
   platform::TickCount last = 0;
   EXPECT_TRUE(IntervalElapsed(last, 1000));
-  clock_->Advance(platform::Milliseconds{999});
+  clock->Advance(platform::Milliseconds{999});
   EXPECT_FALSE(IntervalElapsed(last, 1000));
-  clock_->Advance(platform::Milliseconds{1});
+  clock->Advance(platform::Milliseconds{1});
   EXPECT_TRUE(IntervalElapsed(last, 1000));
   last = std::numeric_limits<platform::TickCount>::max();  // the count has wrapped around since
   EXPECT_TRUE(IntervalElapsed(last, 1000));
-  EXPECT_EQ(last, clock_->Ticks());
-}
-
-TEST_F(SettingsTest, MakesGuidTexts) {
-  const std::string bare = NewGuidText(false);
-  const std::string braced = NewGuidText(true);
-  EXPECT_EQ(bare.size(), 36U);
-  EXPECT_EQ(bare.find_first_of("{}"), std::string::npos);
-  EXPECT_EQ(braced.size(), 38U);
-  EXPECT_TRUE(braced.starts_with('{') && braced.ends_with('}'));
-  EXPECT_NE(braced.substr(1, 36), bare);
+  EXPECT_EQ(last, clock->Ticks());
 }
 
 TEST_F(SettingsTest, OnlyFloatingPointValuesAreNotFinite) {

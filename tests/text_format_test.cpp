@@ -4,7 +4,7 @@
 #include <limits>
 
 #include "ddobjects/ItemArray.h"
-#include "platform/Platform.h"
+#include "support/TestPlatform.h"
 #include "text/DisplayString.h"
 #include "text/NumberMask.h"
 #include "text/modDDPrintF.h"
@@ -18,11 +18,7 @@ using ZAFHartTypes::TypeCode;
 using ZAFHartTypes::TypeInfo;
 using ZAFHartTypes::Variant;
 
-class TextFormatTest : public testing::Test {
- protected:
-  platform::Platform platform_;
-  platform::PlatformScope scope_{platform_};
-};
+struct TextFormatTest : testing::Test, test_support::TestPlatform {};
 
 struct PromptCase {
   Variant value;  // under key 0
@@ -76,20 +72,11 @@ TEST_F(TextFormatTest, FormatsLongPromptsWithoutRecursion) {
 }
 
 TEST_F(TextFormatTest, MakesMasksOfCFormats) {
-  const std::pair<const char*, const char*> cases[] = {{"8.3f", "###0.000"},
-                                                       {"08.3f", "0000.000"},
-                                                       {".2f", "0.00"},
-                                                       {"6d", "#####0"},
-                                                       {"8.3e", "###0.000E+00"},
-                                                       {".0f", "0"},
-                                                       {"8E", "#.#####0E+00"},
-                                                       {"g", ""},
-                                                       {"3.3f", "0.000"},
-                                                       {"2.4f", "0.0000"},
-                                                       {"5hi", "####0"},
-                                                       {"-8.3f", ""},
-                                                       {"5", ""},
-                                                       {"02d", "00"}};
+  const std::pair<const char*, const char*> cases[] = {
+      {"8.3e", "###0.000E+00"}, {"2.4f", "0.0000"}, {".2f", "0.00"}, {"g", ""},
+      {"8E", "#.#####0E+00"},   {"3.3f", "0.000"},  {"-8.3f", ""},   {"5", ""},
+      {"08.3f", "0000.000"},    {"6d", "#####0"},   {"02d", "00"},   {".0f", "0"},
+      {"8.3f", "###0.000"},     {"5hi", "####0"}};
   for (const auto& [format, mask] : cases) EXPECT_EQ(CFormatToVBFormat(format), mask) << format;
 }
 
@@ -119,7 +106,7 @@ TEST_F(TextFormatTest, LaysNumbersOutByMasks) {
   for (const Case& entry : cases) {
     EXPECT_EQ(FormatMask(entry.value, entry.mask), entry.expected) << entry.value << entry.mask;
   }
-  platform_.Locale().decimalSeparator = ",";
+  platform.Locale().decimalSeparator = ",";
   EXPECT_EQ(FormatMask(1.25, "0.0"), "1,3");
 }
 

@@ -2,7 +2,7 @@
 
 #include "support/RecordingTracer.h"
 #include "support/StubGui.h"
-#include "trace/CEmptyErrorHandler.h"
+#include "support/TestPlatform.h"
 #include "trace/CExternalTraceConnection.h"
 #include "trace/CTraceObj.h"
 
@@ -12,8 +12,6 @@ namespace {
 using test_support::RecordingTracer;
 using testing::ElementsAre;
 using ZAFHartTypes::Failure;
-using ZAFHartTypes::ItemIndex;
-using ZAFHartTypes::Variant;
 
 // An operation that counts how often its lines are built.
 class Operation : public ZAFHartTypes::ITracedOperation {
@@ -27,14 +25,12 @@ class Operation : public ZAFHartTypes::ITracedOperation {
   mutable int built = 0;
 };
 
-class TraceStackTest : public testing::Test {
+class TraceStackTest : public testing::Test, public test_support::TestPlatform {
  protected:
   std::shared_ptr<CTraceObj> NewTrace() {
     return std::make_shared<CTraceObj>(std::weak_ptr<ZAFHartTypes::IDDDTMGUI>{}, stack, connection);
   }
 
-  platform::Platform platform{std::make_unique<platform::ManualClock>()};
-  platform::PlatformScope scope{platform};
   std::shared_ptr<StackInformation> stack = std::make_shared<StackInformation>();
   std::shared_ptr<CExternalTraceConnection> connection;
 };
@@ -187,18 +183,6 @@ TEST_F(ExternalTracerTest, NoneWithoutAUsableSetting) {
     platform.Registry().SetValue(kTracerKey, kTracerClassName, className);
     EXPECT_FALSE(CExternalTraceConnection().CheckConnection()) << className;
   }
-}
-
-TEST(EmptyErrorHandlerTest, NotesCyclicEvaluations) {
-  CEmptyErrorHandler handler;
-  EXPECT_EQ(handler.ObjectError(nullptr, ItemIndex::UnknownMenuItem), 1);
-  EXPECT_FALSE(handler.Invoke("criticalerrors", {}).ToBoolean());
-  EXPECT_EQ(handler.ObjectError(nullptr, ItemIndex::CyclicVariable), 1);
-  EXPECT_TRUE(handler.CriticalErrors());
-  const Variant off = false;
-  handler.Invoke("CriticalErrors", {&off, 1});
-  EXPECT_FALSE(handler.CriticalErrors());
-  EXPECT_THROW(handler.Invoke("Criticals", {}), Failure);
 }
 
 }  // namespace

@@ -52,33 +52,6 @@ TEST_F(WorkerDbDependencies, AWriteMakesDependentsStaleThroughArrays) {
   EXPECT_FALSE(IsCurrent("m0"));
 }
 
-TEST_F(WorkerDbDependencies, AnObjectIsStaleWhileAVariableItReadIsNotAvailable) {
-  Compute("m0", {"v0", "later"});
-  SetAvailable("v0", false);
-  EXPECT_EQ(told, std::set<std::string>{"m0"});
-  EXPECT_TRUE(database->HasMissingDependency(VariableNamed("m0")));
-  EXPECT_FALSE(IsCurrent("m0"));
-  EXPECT_FALSE(database->HasMissingDependency(VariableNamed("m0")));  // dropped
-  EXPECT_TRUE(database->IsDependent(VariableNamed("m0"), VariableNamed("v0")));
-  Compute("m0", {"later"});
-  EXPECT_FALSE(database->IsDependent(VariableNamed("m0"), VariableNamed("v0")));
-  AddVariable("later");
-  EXPECT_FALSE(IsCurrent("m0"));
-}
-
-TEST_F(WorkerDbDependencies, ASnapshotFromBeforeDoesNotMakeStaleAttributesCurrent) {
-  Compute("v0", {"v1"});
-  const auto before = Read("v0");
-  before->SetAttributesAvailable(true);
-  Write("v1", 2.0);
-  before->SetValue(1.0);
-  database->WriteObject(before);
-  EXPECT_FALSE(IsCurrent("v0"));
-  before->BeginAttributeComputation();
-  database->WriteObject(before);
-  EXPECT_TRUE(IsCurrent("v0"));
-}
-
 // Against the plain rule: look through the whole list at every read.
 TEST_F(WorkerDbDependencies, AnswersAsAScanOfTheListsWould) {
   std::mt19937 random(20261124);

@@ -28,12 +28,13 @@ TEST_F(WorkerDbObjects, AreFoundByPositionNameAndKind) {
   EXPECT_TRUE(Read("a")->Value().IsEmpty());
   EXPECT_EQ(database->ReadObject(VariableNamed("unknown")), nullptr);
   for (const std::int32_t position : {-1, 0, 5}) {
-    EXPECT_EQ(FailureOf([&] { database->Object(position); }), ErrorNumber::SubscriptOutOfRange);
+    EXPECT_EQ(NumberOfFailure([&] { database->Object(position); }),
+              ErrorNumber::SubscriptOutOfRange);
   }
-  EXPECT_EQ(FailureOf([&] { database->Object("x"); }), ErrorNumber::InvalidProcedureCall);
+  EXPECT_EQ(NumberOfFailure([&] { database->Object("x"); }), ErrorNumber::InvalidProcedureCall);
   const auto notAMenu = std::make_shared<Menu>(VariableNamed("x"));
-  EXPECT_EQ(FailureOf([&] { database->AddObject(nullptr); }), ErrorNumber::InvalidArgument);
-  EXPECT_EQ(FailureOf([&] { database->AddObject(notAMenu); }), ErrorNumber::InvalidArgument);
+  EXPECT_EQ(NumberOfFailure([&] { database->AddObject(nullptr); }), ErrorNumber::InvalidArgument);
+  EXPECT_EQ(NumberOfFailure([&] { database->AddObject(notAMenu); }), ErrorNumber::InvalidArgument);
 }
 
 TEST_F(WorkerDbObjects, EveryTwentySixthReadIsALifeSignal) {

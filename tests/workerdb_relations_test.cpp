@@ -42,8 +42,10 @@ TEST_F(WorkerDbRelations, AreBetweenVariablesOnly) {
   const auto other = VariableNamed("other");
   for (const Definition& wrong :
        {Definition::Define("value", ObjectKind::Menu), VariableNamed("menu"), Definition()}) {
-    EXPECT_EQ(FailureOf([&] { database->SetRefresh(wrong, other); }), ErrorNumber::InvalidArgument);
-    EXPECT_EQ(FailureOf([&] { database->SetUnit(other, wrong); }), ErrorNumber::InvalidArgument);
+    EXPECT_EQ(NumberOfFailure([&] { database->SetRefresh(wrong, other); }),
+              ErrorNumber::InvalidArgument);
+    EXPECT_EQ(NumberOfFailure([&] { database->SetUnit(other, wrong); }),
+              ErrorNumber::InvalidArgument);
   }
   Refresh("value", "unknown");
   Unit("unknown", "unit");
@@ -159,6 +161,7 @@ TEST(UnitTable, FindsUnitsByTheirTextsInEveryLanguage) {
     found += units.Find(text) ? std::to_string(units.Find(text)->Code()) : "-";
   }
   EXPECT_EQ(found, "1123---5");
-  EXPECT_EQ(FailureOf([&] { units.Add(CHartUnit(1, 1, 0, "t", "")); }), ErrorNumber::DuplicateKey);
+  EXPECT_EQ(NumberOfFailure([&] { units.Add(CHartUnit(1, 1, 0, "t", "")); }),
+            ErrorNumber::DuplicateKey);
   EXPECT_EQ(units.Convert(7, "°C", "kg"), 7);  // factor 0
 }

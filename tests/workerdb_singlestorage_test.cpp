@@ -81,7 +81,7 @@ TEST_F(SingleStorage, OutlivesItsDataSets) {
   online.reset();
   onlineDatabase.reset();
   Write(kShared, 2.5);
-  EXPECT_EQ(FailureOf([&] { CDDSiStorManager::Pair(components, nullptr); }),
+  EXPECT_EQ(NumberOfFailure([&] { CDDSiStorManager::Pair(components, nullptr); }),
             ErrorNumber::InvalidArgument);
   EXPECT_EQ(database->GetSingleStorage(), pair);
 }

@@ -81,7 +81,7 @@ TEST_F(WorkerDbValues, OfDataItemsAreReadAndWrittenInOrder) {
                            DataItem::Reference(VariableNamed("unknown"))};
   database->WriteValues(items, {1.0, 2.0, 3.0});
   EXPECT_THAT(database->ReadValues(items), ElementsAre(Variant(5.0), Variant(2.0), Variant()));
-  const auto failure = FailureOf([&] { database->WriteValues(items, {1.0}); });
+  const auto failure = NumberOfFailure([&] { database->WriteValues(items, {1.0}); });
   EXPECT_EQ(failure, ErrorNumber::SubscriptOutOfRange);
 }
 
@@ -115,7 +115,7 @@ TEST_F(WorkerDbValues, AnObjectCarriesItsChangesOnceAndIsStampedAsItChanges) {
   EXPECT_EQ(Read("a")->Value(), Variant(7.0));
   database->WriteObject(std::make_shared<Variable>("unknown"));
   database->WriteObject(nullptr);
-  EXPECT_EQ(FailureOf([&] { database->WriteObject(MakeObject<Menu>("a")); }),
+  EXPECT_EQ(NumberOfFailure([&] { database->WriteObject(MakeObject<Menu>("a")); }),
             ErrorNumber::InvalidArgument);
 }
 
@@ -128,7 +128,7 @@ TEST_F(WorkerDbValues, TheRefreshIntervalReachesEveryVariable) {
     EXPECT_EQ(database->DynAvailTime(), interval);
     EXPECT_EQ(Read("a")->DynAvailTime(), interval);
   }
-  EXPECT_EQ(FailureOf([&] { Write(kDyn, "soon"); }), ErrorNumber::TypeMismatch);
+  EXPECT_EQ(NumberOfFailure([&] { Write(kDyn, "soon"); }), ErrorNumber::TypeMismatch);
   EXPECT_EQ(Read(kDyn)->Value(), Variant(45));
   AddVariable(kStatic, {kHeld});
   const std::int32_t generation = database->Generation();

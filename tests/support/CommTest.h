@@ -7,10 +7,10 @@
 
 #include "comm/CDDTestCommWrapper.h"
 #include "hart/HexText.h"
-#include "platform/Platform.h"
 #include "resources/ResText.h"
 #include "support/CommItems.h"
 #include "support/StubComponents.h"
+#include "support/TestPlatform.h"
 #include "workerdb/CDDWorkerDB.h"
 
 namespace test_support {
@@ -83,7 +83,7 @@ class CommKernel : public StubKernel {
 };
 
 // A wrapper with a real database, on a clock that the test moves, over a scripted link.
-class CommTest : public testing::Test {
+class CommTest : public testing::Test, public TestPlatform {
  protected:
   CommTest() {
     components->kernel = kernel;
@@ -129,13 +129,7 @@ class CommTest : public testing::Test {
     return ZAFHartTypes::hart::ToHex(
         std::vector<std::uint8_t>{status.responseCode, status.communication, status.device});
   }
-  void Advance(int milliseconds) {
-    platform.GetClock().Sleep(platform::Milliseconds{milliseconds});
-    platform.Loop().Pump();
-  }
 
-  platform::Platform platform{std::make_unique<platform::ManualClock>()};
-  platform::PlatformScope scope{platform};
   std::shared_ptr<StubComponents> components = StubComponents::Create();
   std::shared_ptr<CommKernel> kernel = std::make_shared<CommKernel>();
   std::shared_ptr<CDDWorkerDB> database;

@@ -8,6 +8,7 @@
 #include "support/RecordingControl.h"
 #include "support/RecordingTracer.h"
 #include "support/StubComponents.h"
+#include "support/TestPlatform.h"
 #include "trace/CEmptyErrorHandler.h"
 #include "workerdb/CDDWorkerDB.h"
 
@@ -34,20 +35,19 @@ class AsyncKernel : public StubKernel, public IAsyncReader {
 };
 
 // A GUI manager of an instance with a real database, on a clock that the test moves.
-class GuiTest : public testing::Test {
+class GuiTest : public testing::Test, public TestPlatform {
  protected:
-  GuiTest() { NewModel(); }
-  ~GuiTest() override {
-    IgnoreFailures([&] { gui->SetComponentModel(nullptr); });
-  }
-
-  void NewModel() {
+  GuiTest() {
     components->kernel = kernel;
     kernel->SetComponentModel(components);
     components->Use(database);
     components->gui = gui;
     gui->SetComponentModel(components);
   }
+  ~GuiTest() override {
+    IgnoreFailures([&] { gui->SetComponentModel(nullptr); });
+  }
+
   std::shared_ptr<RecordingControl> Register() {
     auto control = std::make_shared<RecordingControl>();
     gui->RegisterCtrl(control);
@@ -58,19 +58,12 @@ class GuiTest : public testing::Test {
     platform.Registry().SetValue(kDtmsKey, name, value);
     gui->SetComponentModel(components);
   }
-  void Advance(int milliseconds) {
-    clock->Advance(platform::Milliseconds{milliseconds});
-    platform.Loop().Pump();
-  }
   static std::shared_ptr<Variable> MakeVariable(const char* name, const char* label = "") {
     auto variable = MakeObject<Variable>(name);
     variable->SetLabel(label);
     return variable;
   }
 
-  platform::ManualClock* clock = new platform::ManualClock;
-  platform::Platform platform{std::unique_ptr<platform::Clock>(clock)};
-  platform::PlatformScope scope{platform};
   std::shared_ptr<RecordingTracer> tracer = RecordingTracer::Install(platform);
   std::shared_ptr<CDDDTMGUI> gui = std::make_shared<CDDDTMGUI>();
   std::shared_ptr<AsyncKernel> kernel = std::make_shared<AsyncKernel>();

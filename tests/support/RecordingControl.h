@@ -11,8 +11,7 @@ namespace test_support {
 class RecordingControl : public StubGui,
                          public IGuiContainer,
                          public IGuiCont2,
-                         public IDDDTMGUIUpdateControl,
-                         public IDDPrint {
+                         public IDDDTMGUIUpdateControl {
  public:
   // --- what it was told ---
   std::vector<std::string> calls;
@@ -25,7 +24,6 @@ class RecordingControl : public StubGui,
   DefinitionList refreshData;
   DefinitionList observedData;
   std::uint64_t threadId = platform::ThreadId();
-  bool prints = false;
   bool fails = false;
 
   void ShowObject(const std::shared_ptr<DDObject>& object) override {
@@ -88,17 +86,13 @@ class RecordingControl : public StubGui,
     for (const Definition& definition : observedData) obsData.Add(definition);
   }
 
-  // IDDDTMGUIUpdateControl, IDDPrint
+  // IDDDTMGUIUpdateControl
   bool LockUpdate() const override { return lockUpdate; }
   void SetLockUpdate(bool locked) override {
     lockUpdate = locked;
     Called("LockUpdate");
   }
   void RefreshView() override { Called("RefreshView"); }
-  bool DoPrint(std::int32_t, std::int32_t, Variant&) override {
-    Called("DoPrint");
-    return prints;
-  }
 
   std::vector<std::string> TakeCalls() { return std::exchange(calls, {}); }
 

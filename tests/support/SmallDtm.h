@@ -34,6 +34,12 @@ class SmallDtm {
   SmallDtm();
   ~SmallDtm();
 
+  // Uploads by the DTM's own menu, which it returns.
+  ZAFHartTypes::Definition Upload() const {
+    ZAFHartTypes::Definition menu;
+    components->Upload(menu);
+    return menu;
+  }
   std::shared_ptr<ZAFHartTypes::Variable> Stored(const char* name) const;
   void Edit(const char* name, const ZAFHartTypes::Variant& value) const;
   ZAFHartTypes::Variant ValueOf(const char* name) const { return Stored(name)->Value(); }

@@ -7,18 +7,21 @@
 #include <string>
 #include <string_view>
 
-#include "platform/Platform.h"
+#include "support/FailureOf.h"
 #include "support/StubComponents.h"
+#include "support/TestPlatform.h"
 #include "workerdb/CDDWorkerDB.h"
 
 namespace test_support {
+
+using support::NumberOfFailure;
 
 inline Definition VariableNamed(std::string_view name) {
   return Definition::Define(name, ObjectKind::Variable);
 }
 
 // A worker database with stubs around it and a clock that stands still.
-class WorkerDbFixture : public testing::Test {
+class WorkerDbFixture : public testing::Test, public TestPlatform {
  protected:
   WorkerDbFixture() { components->Use(database); }
 
@@ -38,27 +41,12 @@ class WorkerDbFixture : public testing::Test {
   void SetAvailable(std::string_view name, bool available) {
     database->SetVariableAvailable(VariableNamed(name), available);
   }
-  void Advance(std::int64_t milliseconds) { clock->Advance(platform::Milliseconds(milliseconds)); }
 
-  platform::ManualClock* clock = new platform::ManualClock;  // owned by the platform
-  platform::Platform platform{std::unique_ptr<platform::Clock>(clock)};
-  platform::PlatformScope scope{platform};
   std::shared_ptr<StubComponents> components = StubComponents::Create();
   std::shared_ptr<StubGui> gui = std::static_pointer_cast<StubGui>(components->gui);
   std::shared_ptr<StubKernel> kernel = std::static_pointer_cast<StubKernel>(components->kernel);
   std::shared_ptr<StubComm> comm = std::static_pointer_cast<StubComm>(components->comm);
   std::shared_ptr<ZAFHartLib::CDDWorkerDB> database = std::make_shared<ZAFHartLib::CDDWorkerDB>();
 };
-
-// The number of the failure that the action ends with, 0 for none.
-template <typename Action>
-ErrorNumber FailureOf(Action action) {
-  try {
-    action();
-  } catch (const Failure& failure) {
-    return failure.Number();
-  }
-  return {};
-}
 
 }  // namespace test_support
