@@ -124,6 +124,18 @@ TEST_F(BuiltinCommands, HaveTheirOwnResult) {
   });
 }
 
+// What the device was given stands there: the old value is not shown as if it were the device's.
+TEST_F(BuiltinCommands, SendWhatIsReadAgainUnlessItIsSaved) {
+  Start();
+  kernel->ReadVariable(Var("a"));
+  Run([&](CDDBuiltinLib& lib) {
+    lib.AssignLong("a", 5);
+    EXPECT_EQ(lib.SendCommand(6), 0);
+  });
+  EXPECT_FALSE(Stored("a")->Available());
+  EXPECT_EQ(kernel->ReadVariable(Var("a"))->Value(), Variant(5));
+}
+
 TEST_F(BuiltinCommands, FetchTheAdditionalStatusWhenThereIsSome) {
   Start();
   ByteBuffer status, more{9, 9}, info{7, 7, 7};

@@ -8,7 +8,6 @@ using namespace test_support;
 using namespace std::string_literals;
 using testing::ElementsAre;
 using testing::HasSubstr;
-using testing::IsEmpty;
 
 class BuiltinMessages : public BuiltinsTest {
  protected:

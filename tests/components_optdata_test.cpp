@@ -11,8 +11,6 @@ namespace {
 using namespace test_support;
 using testing::ElementsAre;
 using testing::HasSubstr;
-using testing::IsEmpty;
-using testing::SizeIs;
 using ZAFHartLib::COptDataReader;
 
 // An array of two variables, read and written by commands whose request selects the element.

@@ -1,14 +1,11 @@
 // Decisions that need no kernel: status bytes, response classification, the direct test, arrays'
-// reach, the posting index and refusal texts.
+// reach and refusal texts.
 
 #include <gmock/gmock.h>
-
-#include <random>
 
 #include "kernel/ArrayReach.h"
 #include "kernel/DirectTest.h"
 #include "kernel/EditedValue.h"
-#include "kernel/PostingIndex.h"
 #include "kernel/ResponseClassification.h"
 #include "kernel/StatusBytes.h"
 
@@ -16,7 +13,6 @@ namespace {
 
 using namespace ZAFHartTypes;
 using namespace ZAFHartLib;
-using testing::ElementsAre;
 
 Definition Var(const char* name) {
   return Definition::Define(name, ObjectKind::Variable);
@@ -29,17 +25,6 @@ TEST(StatusBytes, BitSevenOfTheFirstByteTellsErrorFlagsFromAResponseCode) {
   EXPECT_EQ(StatusFromReply({5, 0x40}), (CommandStatus{5, 0, 0x40}));
   EXPECT_EQ(StatusFromReply({0x84, 0x01}), (CommandStatus{0, 0x84, 0x01}));
   EXPECT_EQ(StatusFromReply({kNoReplyByte, 0}), (CommandStatus{0, 144, 0}));
-}
-
-TEST(StatusBytes, ComeFromVariablesAndConstantsAndAreZeroWhereTheyAreMissing) {
-  Transaction transaction(0);
-  EXPECT_EQ(ReplyBytesOf(transaction).first, 0);
-  auto code = MakeObject<Variable>("response_code");
-  code->SetValue(std::int16_t{16});
-  transaction.Reply() = {Ref("response_code"), DataItem::Constant("no byte")};
-  transaction.Reply().Item(1).SetVariable(code);
-  EXPECT_EQ(ReplyBytesOf(transaction).first, 16);
-  EXPECT_EQ(ReplyBytesOf(transaction).second, 0);
 }
 
 TEST(ResponseClassification, FollowsTheErrorValueTable) {
@@ -118,32 +103,6 @@ TEST(ArrayReach, FindsItemsInNestedCollectionsThatContainEachOther) {
   });
   ASSERT_NE(wanted, nullptr);
   EXPECT_EQ(wanted->index, 9);
-}
-
-TEST(PostingIndex, NamesPostedAndSuspectEntriesInOrder) {
-  const TextKey a = TextKey::Of("a");
-  const TextKey b = TextKey::Of("b");
-  const TextKey source = TextKey::Of("source");
-  PostingIndex index;
-  index.Reset(4);
-  const auto all = [&](TextKey key) {
-    std::vector<std::size_t> found;
-    for (std::size_t i = index.Next(key, 0); i != PostingIndex::kNone; i = index.Next(key, i + 1))
-      found.push_back(i);
-    return found;
-  };
-  EXPECT_THAT(all(a), ElementsAre(0, 1, 2, 3));
-  index.Post(0, {a}, {source}, true);
-  index.Post(1, {b}, {source}, true);
-  index.Post(2, {b, a}, {}, true);
-  index.Post(3, {}, {}, false);
-  EXPECT_THAT(all(a), ElementsAre(0, 2, 3));
-  index.ObjectStale(source);
-  EXPECT_THAT(all(a), ElementsAre(0, 1, 2, 3));
-  index.Post(0, {b}, {}, true);
-  index.Post(1, {b}, {source}, true);
-  index.ObjectStale(source);
-  EXPECT_THAT(all(a), ElementsAre(1, 2, 3)) << "entry 0 watches nothing any more";
 }
 
 TEST(RefusalText, NamesTheLimitsOfTheRanges) {

@@ -121,15 +121,6 @@ TEST_F(KernelDependencies, AChangeDuringTheComputationIsNotMissed) {
   EXPECT_EQ(Computed(), 0);
 }
 
-TEST_F(KernelDependencies, StaticObjectsNeverGoStale) {
-  model->OnCompute<Variable>("x", [](IDDKernel& k, Variable&) { k.GetVariable(Var("y")); });
-  StartTracking();
-  database->SetStaticAttributeNames({TextKey::Of("x")});
-  Computed();
-  Set("y", std::int16_t{1});
-  EXPECT_EQ(Computed(), 0);
-}
-
 TEST_F(KernelDependencies, TheUnitVariableAndTheMenusRestrictionCountAsRead) {
   auto& relation = model->Add<UnitRelation>("r");
   relation.SetUnitVariable(Var("y"));

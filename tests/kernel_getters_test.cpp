@@ -56,14 +56,10 @@ TEST_F(KernelGetters, ComputeOnceWhileNothingChangesAndStartFromTheStaticAttribu
 TEST_F(KernelGetters, NameTheItemAndTheOperationWhenItIsUnknownOrOfAnotherKind) {
   AddVariable("a");
   Start();
-  const auto failure = [](auto&& get) -> std::string {
-    try {
-      get();
-    } catch (const Failure& raised) {
-      EXPECT_EQ(raised.Number(), ErrorNumber::ObjectNotSet);
-      return raised.Source() + ": " + raised.Description();
-    }
-    return "no failure";
+  const auto failure = [](auto get) {
+    const Failure raised = FailureOf(get);
+    EXPECT_EQ(raised.Number(), ErrorNumber::ObjectNotSet);
+    return raised.Source() + ": " + raised.Description();
   };
   EXPECT_EQ(failure([&] { kernel->GetVariable(Var("nope")); }),
             "IDDKernel_GetVariable: The data set has no VARIABLE \"nope\".");

@@ -199,15 +199,6 @@ TEST_F(KernelMenus, EditDisplaysReportItemsOfTheWrongKind) {
   EXPECT_THAT(TakeErrors(), ElementsAre("bad1 8", "bad2 9"));
 }
 
-TEST_F(KernelMenus, AnInvalidMethodIsReportedAndNotRun) {
-  model->OnCompute<Method>("run", [](IDDKernel&, Method& run) { run.SetIsValid(false); });
-  Start();
-  EXPECT_FALSE(kernel->GetMethodValidity(MethodDef("run")));
-  kernel->ExecuteMethod(MethodDef("run"), nullptr);
-  EXPECT_THAT(TakeErrors(), ElementsAre("run 12"));
-  EXPECT_THAT(model->methodRuns, IsEmpty());
-}
-
 TEST_F(KernelMenus, FindElementsAndMembers) {
   const auto collection = Def("col", ObjectKind::Collection);
   model->Add<ItemArray>("array").Elements() = {{3, {}, Var("a")}, {4, {}, collection}};

@@ -42,6 +42,14 @@ struct RelationWorld : KernelWorld {
     relation.SetUnitVariable(Var(unit));
     for (const char* item : items) relation.DependentItems().Add(Var(item));
   }
+  // "u1" gives a its unit by u, in mode 1 by w.
+  void AddUnitByMode() {
+    AddUnit("u1", "u", {"a"});
+    model->OnCompute<UnitRelation>("u1", [](IDDKernel& k, UnitRelation& relation) {
+      const bool odd = k.GetVariable(Var("mode"))->Value() == std::int16_t{1};
+      relation.SetUnitVariable(Var(odd ? "w" : "u"));
+    });
+  }
   std::vector<std::string> Execute(std::string_view variable) {
     recorded->calls.clear();
     kernel->ExecuteRelations(Var(variable));
@@ -65,11 +73,7 @@ TEST_F(KernelRelations, RefreshAndGiveUnitsForTheirVariableInListOrder) {
 }
 
 TEST_F(KernelRelations, AnswerToTheUnitVariableThatTheComputationLeavesBehind) {
-  AddUnit("u1", "u", {"a"});
-  model->OnCompute<UnitRelation>("u1", [](IDDKernel& k, UnitRelation& relation) {
-    const bool odd = k.GetVariable(Var("mode"))->Value() == std::int16_t{1};
-    relation.SetUnitVariable(Var(odd ? "w" : "u"));
-  });
+  AddUnitByMode();
   Start();
   EXPECT_THAT(Execute("u"), ElementsAre("unit a by u"));
   Set("mode", std::int16_t{1});
@@ -83,11 +87,7 @@ TEST_F(KernelRelations, AnswerToTheUnitVariableThatTheComputationLeavesBehind) {
 }
 
 TEST_F(KernelRelations, NoticeAChangeWhileTheyGiveTheUnit) {
-  AddUnit("u1", "u", {"a"});
-  model->OnCompute<UnitRelation>("u1", [](IDDKernel& k, UnitRelation& relation) {
-    const bool odd = k.GetVariable(Var("mode"))->Value() == std::int16_t{1};
-    relation.SetUnitVariable(Var(odd ? "w" : "u"));
-  });
+  AddUnitByMode();
   bool changes = false;
   model->OnCompute<Variable>("a", [&](IDDKernel& k, Variable&) {
     k.GetVariable(Var("b"));

@@ -171,32 +171,6 @@ TEST_F(KernelSearch, AdvancesTheOtherIndexesToWhatIsStillToBeReadOrWritten) {
   EXPECT_EQ(Value("iy"), 1) << "it still is";
 }
 
-TEST_F(KernelSearch, NoticesThatAnArrayHasBeenComputedAnewSinceItWasLookedUp) {
-  for (const char* name : {"x", "y", "mode"}) AddVariable(name);
-  AddArray("xs", "ix", {Var("x")}, true);
-  model->OnCompute<ItemArray>("xs", [](IDDKernel& k, ItemArray& xs) {
-    xs.Elements()[0].definition =
-        Var(k.GetVariable(Var("mode"))->Value() == std::int16_t{1} ? "y" : "x");
-  });
-  AddCommand("read", 50, Operation::Read, {Ref("ix").SetIsIndex()}, {});
-  Start();
-  database->SetTrackDependencies(true);
-  tracer->callBack->SetStackLevelFilter(0);
-  const auto selects = [&](const char* name) {
-    database->SetVariableAvailable(Var("ix"), false);
-    kernel->FindReadCommand(Var(name));
-    return Stored("ix")->Available();
-  };
-  const auto array = Def("xs", ObjectKind::ItemArray);
-  kernel->GetArray(array);
-  EXPECT_TRUE(selects("x"));
-  Set("mode", std::int16_t{1});
-  EXPECT_TRUE(selects("x")) << "as it stands";
-  EXPECT_FALSE(selects("y"));
-  kernel->GetArray(array);
-  EXPECT_TRUE(selects("y"));
-}
-
 // A random data model with conditional commands, arrays, and INFO and INDEX items. The same seed
 // makes the same one.
 struct RandomWorld : SearchWorld {

@@ -5,12 +5,16 @@
 #include "gui/CDDDTMGUI.h"
 #include "kernel/CHARTKernel.h"
 #include "support/DeviceComm.h"
+#include "support/FailureOf.h"
 #include "support/FakeDataModel.h"
 #include "support/RecordingControl.h"
 #include "support/RecordingTracer.h"
+#include "support/TestPlatform.h"
 #include "workerdb/CDDWorkerDB.h"
 
 namespace test_support {
+
+using support::FailureOf;
 
 // Handles every error and keeps it: "<name> <item index>", "response <code>".
 class RecordingHandler : public IDDErrorHandler {
@@ -34,7 +38,7 @@ class RecordingHandler : public IDDErrorHandler {
 
 // A kernel with the real worker database and GUI manager, and a device and a data model of the
 // test's making. Fill `model`, then Start().
-class KernelWorld {
+class KernelWorld : public TestPlatform {
  public:
   KernelWorld() {
     components->kernel = kernel;
@@ -113,9 +117,6 @@ class KernelWorld {
     tracer->callBack->SetTraceLevelFilter(2);
   }
 
-  platform::ManualClock* clock = new platform::ManualClock;
-  platform::Platform platform{std::unique_ptr<platform::Clock>(clock)};
-  platform::PlatformScope scope{platform};
   std::shared_ptr<RecordingTracer> tracer = RecordingTracer::Install(platform);
   std::shared_ptr<FakeDataModel> model = std::make_shared<FakeDataModel>();
   std::shared_ptr<DeviceComm> comm = std::make_shared<DeviceComm>();
@@ -127,5 +128,20 @@ class KernelWorld {
 };
 
 class KernelTest : public testing::Test, public KernelWorld {};
+
+// Command 3 reads a and b, command 6 writes both, commands 0 and 1 read c; d has no command, "own"
+// is the library's.
+class KernelReadWrite : public KernelTest {
+ protected:
+  KernelReadWrite() {
+    for (const char* name : {"a", "b", "c", "d"}) AddVariable(name);
+    AddVariable("own").EditAttributes().SetFlag(VariableFlag::LibraryHeld, true);
+    AddCommand("identify", 0, Operation::Read, {}, {Ref("c")});
+    AddCommand("read_c", 1, Operation::Read, {}, {Ref("c"), Ref("b")});
+    AddCommand("read", 3, Operation::Read, {}, {Ref("a"), Ref("b")});
+    AddCommand("write", 6, Operation::Write, {Ref("a"), Ref("b")}, {Ref("a")});
+    comm->memory = {{"a", std::int16_t{11}}, {"b", std::int16_t{12}}, {"c", std::int16_t{13}}};
+  }
+};
 
 }  // namespace test_support
