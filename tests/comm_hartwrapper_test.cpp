@@ -97,12 +97,16 @@ TEST_F(HartWrapperTest, TakesTheIdentityOutOfTheReply) {
   EXPECT_EQ(hart->Device()->hardwareRevision, 3);
   EXPECT_EQ(hart->Device()->physicalSignaling, 1);
   // No identity: cut off, damaged on the way, refused, from before HART 5.
-  for (const char* reply : {"0000FE26060505010A08000012", "8800FE26060505010A0800001234", "0500",
-                            "000005050505010A08000012345678"}) {
+  for (const auto& [reply, told] :
+       {std::pair{"0000FE26060505010A08000012", "status byte 0x00"},
+        std::pair{"8800FE26060505010A0800001234", "status byte 0x88"},
+        std::pair{"0500", "response code 5"},
+        std::pair{"000005050505010A08000012345678", "status byte 0x00"}}) {
     hart->SetAddressInformation(0, "", "");
     line->device = reply;
     EXPECT_FALSE(hart->Connect()) << reply;
     EXPECT_EQ(hart->OnlineState(), State::NoDeviceFound);
+    EXPECT_THAT(hart->ConnectionError(), HasSubstr(told));
   }
 }
 

@@ -84,11 +84,19 @@ TEST(ModemServer, AnswersRequestsAmongOtherTraffic) {
       continue;
     }
     EXPECT_THAT(channel.log, ElementsAre("on", sent)) << what;
-    channel.Receive("FF FF 02 80 00 00 82");  // nobody speaks while it does
+    channel.Receive("FF FF FF FF FF FF 06 80 00 02 00 40 C4");  // an echo
     channel.listener->OnSent();
     pass(50ms);
     EXPECT_THAT(channel.log, ElementsAre("on", sent, "off")) << what;
   }
+  channel.log.clear();
+  channel.Receive("FF FF 02 80 00 00 82");
+  pass(10ms);
+  channel.Receive("FF FF 02 80 00 00 82");  // heard the reply, which the channel has not reported
+  pass(10ms);
+  EXPECT_THAT(channel.log, ElementsAre("on", kReply0));
+  channel.listener->OnSent();
+  EXPECT_THAT(channel.log, ElementsAre("on", kReply0, "off", "on", kReply0));
 }
 
 TEST(ModemServer, IsReachedOverAPseudoTerminalByOneMasterAfterAnother) {

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "hart/HexText.h"
+#include "hart/StatusBytes.h"
 #include "resources/ResText.h"
 #include "resources/enumDDResourceIDs.h"
 #include "text/modDDPrintF.h"
@@ -10,6 +12,7 @@ namespace ZAFHartLib {
 
 using ZAFHartTypes::SupportedDevice;
 using ZAFHartTypes::hart::DeviceIdentity;
+namespace hart = ZAFHartTypes::hart;
 
 namespace {
 
@@ -47,6 +50,13 @@ std::string ListText(std::span<const SupportedDevice> devices) {
 std::string NoDeviceText(const std::string& address, std::string reason) {
   if (reason.ends_with('.')) reason.pop_back();  // the text goes on
   return Filled(reason.empty() ? idErrNoDeviceAnswers : idErrNoDeviceReason, address, reason);
+}
+
+std::string NoIdentityText(const std::string& address, std::uint8_t status) {
+  const bool isRefused = status != hart::kSuccess && !hart::IsCommunicationError(status);
+  const std::uint8_t byte[] = {status};
+  return isRefused ? Filled(idErrIdentityRefused, address, std::to_string(status))
+                   : Filled(idErrIdentityDamaged, address, "0x" + hart::ToHex(byte));
 }
 
 std::string WrongDeviceText(std::span<const SupportedDevice> supported,

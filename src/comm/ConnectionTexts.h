@@ -11,6 +11,8 @@ namespace ZAFHartLib {
 
 // `reason` is what the link tells; "" when nobody answered.
 std::string NoDeviceText(const std::string& address, std::string reason);
+// Somebody answered without an identity; `status` is the reply's first byte.
+std::string NoIdentityText(const std::string& address, std::uint8_t status);
 // "" for a device that the DTM is for: one of `supported`, or any when that is empty.
 std::string WrongDeviceText(std::span<const ZAFHartTypes::SupportedDevice> supported,
                             const ZAFHartTypes::hart::DeviceIdentity& found);

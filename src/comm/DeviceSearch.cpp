@@ -106,7 +106,11 @@ std::shared_ptr<Exchange> DeviceSearch::Next() {
 
 void DeviceSearch::Take(const Exchange& exchange) {
   if (exchange.Result() != ExchangeResult::ReplyPresent) return;
-  IgnoreFailures([&] { found_ = hart::ReadIdentity(hart::FromHex(exchange.ReplyData())); });
+  IgnoreFailures([&] {
+    const std::vector<std::uint8_t> reply = hart::FromHex(exchange.ReplyData());
+    found_ = hart::ReadIdentity(reply);
+    if (!found_ && !reply.empty()) refusal_ = reply.front();
+  });
 }
 
 }  // namespace ZAFHartLib

@@ -37,6 +37,8 @@ class DeviceSearch {
   // Takes the reply of an exchange that has ended.
   void Take(const ZAFHartTypes::Exchange& exchange);
   const std::optional<ZAFHartTypes::hart::DeviceIdentity>& Found() const { return found_; }
+  // First status byte of the last reply that held no identity; nothing when there was none.
+  const std::optional<std::uint8_t>& Refusal() const { return refusal_; }
 
  private:
   struct Request {
@@ -51,6 +53,7 @@ class DeviceSearch {
   std::size_t next_ = 0;
   std::size_t end_ = 0;
   std::optional<ZAFHartTypes::hart::DeviceIdentity> found_;
+  std::optional<std::uint8_t> refusal_;
 };
 
 }  // namespace ZAFHartLib

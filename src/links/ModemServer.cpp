@@ -18,8 +18,6 @@ ModemServer::~ModemServer() {
 }
 
 void ModemServer::OnByte(std::uint8_t byte, bool faulty) {
-  // Of its own reply a modem may send the echo; a master is silent meanwhile.
-  if (isSending_) return;
   const auto found = faulty ? decoder_.ReceiveFaulty(byte) : decoder_.Receive({&byte, 1});
   for (const hart::DecodedFrame& decoded : found) Handle(decoded);
   silence_.Cancel();
@@ -38,7 +36,10 @@ void ModemServer::Handle(const hart::DecodedFrame& decoded) {
                                                     [this] { Send(); });
 }
 
+// A master may ask again as soon as it has heard the reply, before the channel tells its end.
 void ModemServer::Send() {
+  isDue_ = isSending_;
+  if (isDue_) return;
   isSending_ = true;
   channel_.SetRequestToSend(true);
   channel_.Send(answer_);
@@ -47,11 +48,13 @@ void ModemServer::Send() {
 void ModemServer::OnSent() {
   channel_.SetRequestToSend(false);
   isSending_ = false;
+  if (isDue_) Send();
 }
 
 void ModemServer::OnBroken(const std::string&) {
   answering_.Cancel();
   isSending_ = false;
+  isDue_ = false;
 }
 
 }  // namespace HartLinks

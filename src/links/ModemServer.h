@@ -19,8 +19,8 @@ struct ModemServerOptions {
 };
 
 // The devices' side of a line: finds requests in what comes, and answers those that are for a
-// device. What others say on the line is passed over; a request that comes before the answer to the
-// last one has begun takes its place.
+// device. What others say on the line is passed over, and so is the echo of a reply; a request that
+// comes before the answer to the last one has begun takes its place.
 class ModemServer : private ByteChannel::Listener {
  public:
   // The channel is open and outlives the server.
@@ -42,6 +42,7 @@ class ModemServer : private ByteChannel::Listener {
   ZAFHartTypes::hart::FrameDecoder decoder_;
   std::vector<std::uint8_t> answer_;  // that waits for its time
   bool isSending_ = false;
+  bool isDue_ = false;  // the answer's time has come while the one before is being sent
   platform::Subscription silence_;
   platform::Subscription answering_;
 };

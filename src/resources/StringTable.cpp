@@ -213,6 +213,17 @@ constexpr auto kTable = std::to_array<StringResource>({
     {idErrDisconnected,
      "The DTM is disconnected from its device. Connect it first."
      "|de|Der DTM ist von seinem Gerät getrennt. Stellen Sie zuerst die Verbindung her."},
+    {idErrIdentityRefused,
+     "The device at address %{s1} answers, but refuses with response code %{s2} to tell who it is. "
+     "Wait and try again: code 32 is that of a busy device."
+     "|de|Das Gerät unter der Adresse %{s1} antwortet, verweigert aber mit dem Antwortcode %{s2} "
+     "die Auskunft, wer es ist. Warten Sie und versuchen Sie es noch einmal: 32 ist der Code eines "
+     "beschäftigten Geräts."},
+    {idErrIdentityDamaged,
+     "The device at address %{s1} answers, but who it is cannot be read (first status byte %{s2}). "
+     "Check the line for disturbances."
+     "|de|Das Gerät unter der Adresse %{s1} antwortet, aber wer es ist, lässt sich nicht lesen "
+     "(erstes Statusbyte %{s2}). Prüfen Sie die Leitung auf Störungen."},
     {idWaiting, "Waiting ...|de|Warte ..."},
 
     {idTitleError, "Error|de|Fehler|fr|Erreur|it|Errore|es|Error"},

@@ -140,6 +140,8 @@ enum enumDDResourceIDs : std::int32_t {
   idErrWrongDevice = 3022,
   idErrOtherDevice = 3023,
   idErrDisconnected = 3024,
+  idErrIdentityRefused = 3025,
+  idErrIdentityDamaged = 3026,
   idWaiting = 3100,
 
   idTitleError = 11001,
