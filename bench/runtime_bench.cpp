@@ -89,9 +89,25 @@ BENCHMARK(WriteValue_NoRelation);
 
 // --- whole data sets and exchanges over the echo link ---
 
+// The first upload of an instance also computes all attributes and builds the index of commands.
+void FirstUpload_Echo(benchmark::State& state) {
+  Definition menu;
+  for (auto _ : state) {
+    state.PauseTiming();
+    auto components = bench::MakeInstance(static_cast<std::size_t>(state.range(0)));
+    state.ResumeTiming();
+    components->Upload(menu);
+    state.PauseTiming();
+    components.reset();
+    state.ResumeTiming();
+  }
+}
+BENCHMARK(FirstUpload_Echo)->Arg(100)->Arg(1000)->Arg(10000)->Unit(benchmark::kMillisecond);
+
 void Upload_Echo(benchmark::State& state) {
   const auto components = bench::MakeInstance(static_cast<std::size_t>(state.range(0)));
   Definition menu;
+  components->Upload(menu);
   for (auto _ : state) components->Upload(menu);
 }
 BENCHMARK(Upload_Echo)->Arg(100)->Arg(1000)->Arg(10000)->Unit(benchmark::kMillisecond);

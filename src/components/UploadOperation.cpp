@@ -27,7 +27,7 @@ void UploadOperation::Load(const DefinitionList& variables, std::size_t itemCoun
   UpdateLock update(Gui());
   RunMethod("__ZAF__pre_upload");
   Database()->SetVariableToBeWritten({}, false);
-  DiscardValues(variables);
+  Database()->SetVariableAvailable({}, false);  // those to be read among them
   MarkSynchronized();
   std::int32_t pollingAddress = 0;
   std::string tag;
@@ -59,14 +59,6 @@ DefinitionList UploadOperation::AllUploadVariables() const {
 bool UploadOperation::IsConfiguration(const Variable& variable) {
   return !variable.Attributes().IsLibraryHeld() && !variable.Attributes().IsDynamic() &&
          variable.CheckHandling(AccessMode::Read);
-}
-
-void UploadOperation::DiscardValues(const DefinitionList& variables) const {
-  for (const Definition& definition : variables) {
-    if (IsConfiguration(*Kernel()->GetVariable(definition)))
-      Database()->SetVariableAvailable(definition, false);
-  }
-  Database()->SetVariableAvailable({}, false);
 }
 
 // Reading a variable may make others valid; they are read in the next pass. The passes end with

@@ -19,7 +19,6 @@ class UploadOperation : public DataSetOperation {
   bool IsAvailable(const ZAFHartTypes::Definition& definition) const;
 
   void Load(const ZAFHartTypes::DefinitionList& variables, std::size_t itemCount) const;
-  void DiscardValues(const ZAFHartTypes::DefinitionList& variables) const;
   // Progress counts all items of the menu, of whatever kind.
   void ReadInPasses(const ZAFHartTypes::DefinitionList& variables, std::size_t itemCount) const;
   // One more try for what is still not available, live and invalid variables included.

@@ -26,14 +26,19 @@ void PtyChannel::Watch() {
 
 void PtyChannel::Receive() {
   std::array<std::uint8_t, 512> bytes{};
-  std::optional<std::size_t> size;
-  platform::IgnoreFailures([&] { size = terminal_.Receive(bytes); });
-  if (!size) {
+  std::size_t size = 0;
+  bool isUsed = false;  // somebody has the other end open
+  platform::IgnoreFailures([&] {
+    const auto received = terminal_.Receive(bytes);
+    isUsed = received.has_value();
+    size = received.value_or(0);
+  });
+  if (!isUsed) {
     readable_.Cancel();
     lookingAgain_ = Loop().StartOnce(kLookInterval, [this] { Watch(); });
     return;
   }
-  for (std::size_t i = 0; i < *size && listener_; ++i) listener_->OnByte(bytes[i], false);
+  for (std::size_t i = 0; i < size && listener_; ++i) listener_->OnByte(bytes[i], false);
 }
 
 void PtyChannel::Send(ZAFHartTypes::hart::Bytes bytes) {
