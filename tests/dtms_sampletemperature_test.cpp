@@ -106,7 +106,7 @@ struct Layout {
   std::size_t reply;  // without response code and device status
 };
 
-// Numbers of data bytes in the HART command specifications; from 128 on the device's own.
+// Numbers of data bytes of the HART commands; from 128 on the device's own.
 constexpr Layout kLayouts[] = {
     {0, 0, 0, 22},    {1, 0, 0, 5},    {2, 0, 0, 8},     {3, 0, 0, 24},    {6, 0, 2, 2},
     {7, 0, 0, 2},     {8, 0, 0, 4},    {9, 0, 1, 13},    {9, 1, 4, 37},    {11, 0, 6, 22},

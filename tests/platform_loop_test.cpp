@@ -229,6 +229,17 @@ TEST_F(PipeTest, RunsHandlersWhileTheirDescriptorIsReady) {
   EXPECT_EQ(log, "wrwrww");
 }
 
+TEST_F(PipeTest, LeavesTimedHandlersInTheQueue) {
+  ManualClock fromZero{0ms};
+  MessageLoop early(fromZero);
+  const auto posted = early.Post(Log('p'));
+  const auto reader = early.Watch(Reader(), Take('r'));
+  Send();
+  EXPECT_TRUE(early.RunReady());
+  EXPECT_TRUE(early.Pump());
+  EXPECT_EQ(log, "rp");
+}
+
 TEST_F(PipeTest, SleepsUntilSomethingIsDueWhenNothingIsReady) {
   const auto reader = loop->Watch(Reader(), Take('r'));
   const auto once = loop->StartOnce(5ms, Log('o'));

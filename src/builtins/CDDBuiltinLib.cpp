@@ -76,7 +76,7 @@ void CDDBuiltinLib::SetCurrentMethodState(std::shared_ptr<PromptValues> state) {
 std::shared_ptr<CDDWorkerDB> CDDBuiltinLib::Database() const {
   auto database = std::dynamic_pointer_cast<CDDWorkerDB>(model_.Database());
   if (!database) {
-    throw Failure(ErrorNumber::NotImplemented, "CDDBuiltinLib",
+    throw Failure(ErrorNumber::TypeMismatch, "CDDBuiltinLib",
                   "Methods need the library's own worker database.");
   }
   return database;

@@ -104,7 +104,6 @@ class CHARTCommWrapper : public CommWrapper, public ZAFHartTypes::IDeviceConnect
   // Sends what waited for the connection, or ends it unsent.
   void ReleaseQueue();
   void ShowProblem();
-  std::string NotFoundText(const DeviceSearch& search);
   std::string WrongTypeText() const;
   std::string LinkError();
   std::int32_t InternalNumber(std::string_view name, std::int32_t otherwise) const;

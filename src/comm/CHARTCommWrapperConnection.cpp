@@ -143,7 +143,8 @@ void CHARTCommWrapper::StopBackgroundSearch() {
 
 void CHARTCommWrapper::Conclude(const DeviceSearch& search) {
   device_ = search.Found();
-  if (!device_) return Fail(State::NoDeviceFound, NotFoundText(search));
+  if (!device_)
+    return Fail(State::NoDeviceFound, NotFoundText(search, target_.Text(), LinkError()));
   SetState(State::CheckingDeviceType);
   const std::string wrongType = WrongTypeText();
   if (!wrongType.empty()) return Fail(State::WrongDevice, wrongType);
@@ -152,12 +153,6 @@ void CHARTCommWrapper::Conclude(const DeviceSearch& search) {
                 OtherDeviceText(unit_.empty() ? LongAddress() : unit_, *device_));
   }
   TakeDevice();
-}
-
-std::string CHARTCommWrapper::NotFoundText(const DeviceSearch& search) {
-  const std::string reason = LinkError();
-  if (reason.empty() && search.Refusal()) return NoIdentityText(target_.Text(), *search.Refusal());
-  return NoDeviceText(target_.Text(), reason);
 }
 
 std::string CHARTCommWrapper::WrongTypeText() const {

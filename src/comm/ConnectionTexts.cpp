@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "comm/DeviceSearch.h"
 #include "hart/HexText.h"
 #include "hart/StatusBytes.h"
 #include "resources/ResText.h"
@@ -45,6 +46,14 @@ std::string ListText(std::span<const SupportedDevice> devices) {
   return text;
 }
 
+// `status` is the first byte of the reply.
+std::string NoIdentityText(const std::string& address, std::uint8_t status) {
+  const bool isRefused = status != hart::kSuccess && !hart::IsCommunicationError(status);
+  const std::uint8_t byte[] = {status};
+  return isRefused ? Filled(idErrIdentityRefused, address, std::to_string(status))
+                   : Filled(idErrIdentityDamaged, address, "0x" + hart::ToHex(byte));
+}
+
 }  // namespace
 
 std::string NoDeviceText(const std::string& address, std::string reason) {
@@ -52,11 +61,10 @@ std::string NoDeviceText(const std::string& address, std::string reason) {
   return Filled(reason.empty() ? idErrNoDeviceAnswers : idErrNoDeviceReason, address, reason);
 }
 
-std::string NoIdentityText(const std::string& address, std::uint8_t status) {
-  const bool isRefused = status != hart::kSuccess && !hart::IsCommunicationError(status);
-  const std::uint8_t byte[] = {status};
-  return isRefused ? Filled(idErrIdentityRefused, address, std::to_string(status))
-                   : Filled(idErrIdentityDamaged, address, "0x" + hart::ToHex(byte));
+std::string NotFoundText(const DeviceSearch& search, const std::string& address,
+                         const std::string& reason) {
+  const bool isAnswered = reason.empty() && search.Refusal();
+  return isAnswered ? NoIdentityText(address, *search.Refusal()) : NoDeviceText(address, reason);
 }
 
 std::string WrongDeviceText(std::span<const SupportedDevice> supported,

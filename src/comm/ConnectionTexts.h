@@ -9,10 +9,13 @@
 // Why there is no connection, as users are told: multilingual, and what to do about it.
 namespace ZAFHartLib {
 
+class DeviceSearch;
+
 // `reason` is what the link tells; "" when nobody answered.
 std::string NoDeviceText(const std::string& address, std::string reason);
-// Somebody answered without an identity; `status` is the reply's first byte.
-std::string NoIdentityText(const std::string& address, std::uint8_t status);
+// Of a search that found nobody: as above, or that somebody answered without an identity.
+std::string NotFoundText(const DeviceSearch& search, const std::string& address,
+                         const std::string& reason);
 // "" for a device that the DTM is for: one of `supported`, or any when that is empty.
 std::string WrongDeviceText(std::span<const ZAFHartTypes::SupportedDevice> supported,
                             const ZAFHartTypes::hart::DeviceIdentity& found);

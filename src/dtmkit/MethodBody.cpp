@@ -39,7 +39,7 @@ void RunAbortMethods(Context& context, const IDDBuiltinLib& dd,
 
 IDDBuiltinLib2& Extended(IDDBuiltinLib& dd) {
   if (auto* extended = dynamic_cast<IDDBuiltinLib2*>(&dd)) return *extended;
-  throw Failure(ErrorNumber::NotImplemented, "dtmkit.Extended",
+  throw Failure(ErrorNumber::TypeMismatch, "dtmkit.Extended",
                 "The builtin library in use offers the HART DD builtins only.");
 }
 

@@ -21,7 +21,7 @@ namespace ZAFHartTypes::dtmkit {
 // assigned and not saved (SaveValues) is undone when it ends.
 using MethodBody = std::function<void(IDDBuiltinLib& dd)>;
 
-// The further helpers of the same run: calculations, AddUnit. Raises NotImplemented when the
+// The further helpers of the same run: calculations, AddUnit. Raises TypeMismatch when the
 // library in use has none.
 IDDBuiltinLib2& Extended(IDDBuiltinLib& dd);
 

@@ -8,7 +8,7 @@
 #include "hart/Numbers.h"
 
 // Who a device is, as it tells by command 0 (read unique identifier), 11 (by tag) or 21 (by long
-// tag); all three have one reply, by the HART universal command specification.
+// tag); all three have one reply, by the HART universal commands.
 namespace ZAFHartTypes::hart {
 
 struct DeviceIdentity {

@@ -4,7 +4,7 @@
 #include <cstdint>
 
 // The two status bytes at the start of every HART reply, by the HART command summary and common
-// tables specifications.
+// tables.
 namespace ZAFHartTypes::hart {
 
 // Number of status bytes before the data.

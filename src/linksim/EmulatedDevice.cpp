@@ -23,7 +23,7 @@ using ZAFHartTypes::Variant;
 
 namespace {
 
-// HART command numbers (universal and common practice command specifications).
+// HART command numbers (universal and common practice).
 enum CommandNumber : std::int16_t {
   kReadUniqueIdentifier = 0,
   kWritePollingAddress = 6,

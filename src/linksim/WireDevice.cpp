@@ -20,7 +20,7 @@ using ZAFHartTypes::Failure;
 
 namespace {
 
-// HART command numbers (universal command specification).
+// HART universal command numbers.
 enum CommandNumber : std::uint16_t {
   kReadUniqueIdentifier = 0,
   kReadIdentifierByTag = 11,
@@ -32,7 +32,7 @@ constexpr std::size_t kTagSize = 6;         // Packed ASCII
 constexpr std::size_t kLongTagSize = 32;    // Latin-1
 constexpr std::uint32_t kBurstAsUsual = 1;  // command 1
 
-// Response codes (command summary and common tables specifications).
+// Response codes (HART command summary).
 constexpr std::uint8_t kInvalidSelection = 2;
 constexpr std::uint8_t kNotImplemented = 64;
 

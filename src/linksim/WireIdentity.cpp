@@ -5,7 +5,7 @@
 
 #include "hart/StatusBytes.h"
 
-// Layout of HART command 0 (universal commands specification) of revisions 5, 6 and 7.
+// Layout of HART universal command 0 in revisions 5, 6 and 7.
 namespace HartLinkSim {
 
 namespace hart = ZAFHartTypes::hart;

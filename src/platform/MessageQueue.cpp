@@ -152,7 +152,7 @@ MessageLoop::Queue::StatePointer MessageLoop::Queue::FirstDue(Milliseconds now,
 }
 
 void MessageLoop::Queue::Run(const StatePointer& state, Milliseconds now) {
-  waiting_.erase(state);
+  if (!state->watched) waiting_.erase(state);
   state->active = state->Repeats();
   state->running = true;
   const OnReturn finish{[&] { Finish(state, now); }};

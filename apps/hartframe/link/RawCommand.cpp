@@ -14,9 +14,7 @@ using ZAFHartTypes::Addressing;
 
 constexpr int kReadIdentity = 0;  // HART command 0, the one that a polling address does for
 
-[[noreturn]] void FailToReach(const DirectLink& link, const std::string& address,
-                              const Speech& say) {
-  const std::string text = ZAFHartLib::NoDeviceText(address, link.Way().LastError());
+[[noreturn]] void Fail(const std::string& text, const Speech& say) {
   throw CommandFailure(ExitCode::Communication, say.Pick(text));
 }
 
@@ -28,7 +26,9 @@ std::string LookUp(DirectLink& link, const DeviceAddress& address, const Speech&
     link.Send(exchange);
     search.Take(*exchange);
   }
-  if (!search.Found()) FailToReach(link, target.Text(), say);
+  if (!search.Found()) {
+    Fail(ZAFHartLib::NotFoundText(search, target.Text(), link.Way().LastError()), say);
+  }
   return search.Found()->LongAddress();
 }
 
@@ -52,7 +52,7 @@ ExitCode RunRaw(const Options& options, const Speech& say, Report& report) {
   const std::string address =
       request.longAddress.empty() ? std::to_string(request.pollingAddress) : request.longAddress;
   const auto bytes = link.Ask(request);
-  if (!bytes) FailToReach(link, address, say);
+  if (!bytes) Fail(ZAFHartLib::NoDeviceText(address, link.Way().LastError()), say);
   const RawReply reply{options.rawCommand, address, *bytes};
   report.Reply(reply);
   return CodeOf(reply);
