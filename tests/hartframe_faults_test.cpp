@@ -52,6 +52,20 @@ INSTANTIATE_TEST_SUITE_P(
       return name;
     });
 
+// The tag's command sends descriptor and date as well: never the defaults of unread ones.
+TEST_F(Hartframe, AWriteNeverSendsWhatCouldNotBeReadAlongWithIt) {
+  const Json before = ReadValue("descriptor");
+  int heldBack = 0;
+  for (const char* fault : {"no-reply:", "response:16:", "truncated:"}) {
+    for (int strikes = 1; strikes < 5; ++strikes) {
+      const std::string both = fault + std::to_string(strikes);
+      heldBack += Run({"write", "tag=NEW", "--fault", both}).code != 0;
+      EXPECT_EQ(ReadValue("descriptor"), before) << both;
+    }
+  }
+  EXPECT_GT(heldBack, 2);
+}
+
 // --- Ctrl-C ---
 
 TEST_F(Hartframe, AnInterruptedUploadTellsHowMuchIsLeft) {

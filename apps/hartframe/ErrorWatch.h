@@ -22,6 +22,10 @@ class ErrorWatch : public ZAFHartTypes::IDDErrorHandler {
 
   // How the write of the variable failed; Trouble::None when it did not.
   Trouble WriteTrouble(const ZAFHartTypes::Definition& definition) const;
+  // For a write that was not tried, because it could not have been done properly.
+  void SetWriteTrouble(const ZAFHartTypes::Definition& definition, Trouble trouble) {
+    writes_[definition.Key().Folded()] = trouble;
+  }
   // The last error of the DD's own code since Forget; "" without one.
   const std::string& EvaluationErrorText() const { return evaluationError_; }
   void Forget() { *this = {}; }

@@ -1,6 +1,7 @@
 #include "hartframe/Changes.h"
 #include "hartframe/Commands.h"
 #include "hartframe/Transfers.h"
+#include "hartframe/WritePartners.h"
 #include "hartframe/WriteWatch.h"
 
 namespace hartframe {
@@ -42,7 +43,10 @@ Written WriteMarked(Session& session) {
       session.Database().SetVariableToBeWritten(definition, true);
   });
   WriteWatch watch(session, PendingVariables(session));
-  written.finished = session.Run([&] { session.Components().WriteChanges(); });
+  const bool goesOn = HoldBackUnread(session);
+  written.finished = session.Run([&] {
+    if (goesOn) session.Components().WriteChanges();
+  });
   written.results = watch.Results();
   watch.RestoreUnanswered(written.results);
   TellWritten(session, written.results);

@@ -66,4 +66,16 @@ inline constexpr const char* kNotKept =
     "FICHERO para guardar lo que queda por escribir.|kt|Mi-kakikomi o nokosu ni wa --dataset FILE "
     "ka --pending FILE o tsukete kudasai.";
 
+inline constexpr const char* kPartnerUnread =
+    "{0} is not written: its command also sends {1}, which cannot be read from the device. Try "
+    "again, or give {1} a value as well.|de|{0} wird nicht geschrieben: Das Kommando sendet auch "
+    "{1}, das nicht aus dem Gerät gelesen werden kann. Noch einmal versuchen oder auch {1} einen "
+    "Wert geben.|fr|{0} n'est pas écrit : sa commande envoie aussi {1}, qui ne peut pas être lu "
+    "dans l'appareil. Réessayez, ou donnez aussi une valeur à {1}.|it|{0} non viene scritto: il "
+    "suo comando invia anche {1}, che non si può leggere dal dispositivo. Riprovare, o dare un "
+    "valore anche a {1}.|es|{0} no se escribe: su comando envía también {1}, que no se puede leer "
+    "del dispositivo. Inténtelo de nuevo o dé un valor también a {1}.|kt|{0} wa kakikomimasen: "
+    "onaji komando de okurareru {1} o kiki kara yomemasen. Mou ichido tamesu ka, {1} ni mo atai o "
+    "ataete kudasai.";
+
 }  // namespace hartframe::texts
