@@ -126,6 +126,8 @@ TEST_F(DeviceTest, ThePollingAddressDecidesWhetherCommand0IsAnswered) {
   EXPECT_FALSE(isAnswered(7, ""));
   EXPECT_TRUE(isAnswered(3, ""));
   EXPECT_TRUE(isAnswered(7, "26060000AB"));
+  EXPECT_EQ(Reply(6, {Byte("new_address")}, "40", {Byte("new_address")}, "000000"), "0240");
+  EXPECT_TRUE(isAnswered(3, "")) << "where it was";
 }
 
 TEST(ValueTexts, AreReadBackExactly) {

@@ -23,6 +23,7 @@ enum CommunicationFlag : std::uint8_t {
 // First byte with bit 7 clear: response code.
 enum ResponseCodeValue : std::uint8_t {
   kSuccess = 0,
+  kInvalidSelection = 2,
   kTooFewDataBytes = 5,
   kDeviceSpecificError = 6,
   kBusy = 32,

@@ -5,6 +5,7 @@
 #include "ddobjects/Transaction.h"
 #include "ddobjects/Variable.h"
 #include "hart/HexText.h"
+#include "hart/LinkFrame.h"
 #include "hart/StatusBytes.h"
 #include "linksim/DeviceRequest.h"
 #include "linksim/ValueText.h"
@@ -45,6 +46,12 @@ constexpr std::int16_t kNotConfiguring[] = {9,
                                             kRestart,
                                             kReadAdditionalStatus,
                                             54};
+
+// Nobody would find the device again at an address that no frame can name.
+bool IsNoPollingAddress(std::int16_t command, const DeviceRequest& request) {
+  return command == kWritePollingAddress && !request.Fields().empty() &&
+         request.Fields().front().value.ToBits32() > hart::LinkAddress::kMaxPolling;
+}
 
 // The variables that the device itself has to know.
 TextKey PollingAddressName() {
@@ -129,6 +136,7 @@ bool EmulatedDevice::IsAddressed(const Exchange& exchange) const {
 std::vector<std::uint8_t> EmulatedDevice::CarryOut(const Exchange& exchange) {
   const DeviceRequest request(exchange);
   if (!request.IsComplete()) return Refuse(hart::kTooFewDataBytes);
+  if (IsNoPollingAddress(exchange.CommandNumber(), request)) return Refuse(hart::kInvalidSelection);
   if (Configures(exchange.CommandNumber())) Store(request);
   Apply(exchange.CommandNumber(), request);
   std::vector<std::uint8_t> reply = ReplyTo(exchange, request);

@@ -33,7 +33,6 @@ constexpr std::size_t kLongTagSize = 32;    // Latin-1
 constexpr std::uint32_t kBurstAsUsual = 1;  // command 1
 
 // Response codes (HART command summary).
-constexpr std::uint8_t kInvalidSelection = 2;
 constexpr std::uint8_t kNotImplemented = 64;
 
 bool AsksByTag(std::uint16_t number) {
@@ -164,7 +163,7 @@ WireDevice::Data WireDevice::CarryOut(std::uint16_t number, const Exchange& exch
                                       const FoundCommand& found) {
   if (number == kReadUniqueIdentifier) return Identity(exchange, found.transaction != nullptr);
   if (!found.isKnown) return {kNotImplemented, device_->Status()};
-  if (!found.transaction) return {kInvalidSelection, device_->Status()};
+  if (!found.transaction) return {hart::kInvalidSelection, device_->Status()};
   Data reply = *device_->Answer(exchange);
   lastError_ = device_->LastError();
   if (hart::IsCarriedOut(reply.front())) {

@@ -215,10 +215,11 @@ constexpr auto kTable = std::to_array<StringResource>({
      "|de|Der DTM ist von seinem Gerät getrennt. Stellen Sie zuerst die Verbindung her."},
     {idErrIdentityRefused,
      "The device at address %{s1} answers, but refuses with response code %{s2} to tell who it is. "
-     "Wait and try again: code 32 is that of a busy device."
+     "Wait and try again: codes 32 to 34 are those of a busy device."
      "|de|Das Gerät unter der Adresse %{s1} antwortet, verweigert aber mit dem Antwortcode %{s2} "
-     "die Auskunft, wer es ist. Warten Sie und versuchen Sie es noch einmal: 32 ist der Code eines "
-     "beschäftigten Geräts."},
+     "die Auskunft, wer es ist. Warten Sie und versuchen Sie es noch einmal: 32 bis 34 sind die "
+     "Codes "
+     "eines beschäftigten Geräts."},
     {idErrIdentityDamaged,
      "The device at address %{s1} answers, but who it is cannot be read (first status byte %{s2}). "
      "Check the line for disturbances."
