@@ -61,19 +61,24 @@ PluginFactory MakeFactory(const fs::path& file, const PluginClass& entry) {
 
 }  // namespace
 
-std::vector<PluginFactory> OpenPlugin(const fs::path& file) {
-  if (file.is_relative()) {
-    throw Failure(ErrorNumber::InvalidArgument, "Plugin",
-                  "The plug-in file \"" + file.string() + "\" is relative; give its full path");
-  }
-  const PluginDescription& description = Describe(file);
+std::vector<PluginFactory> FactoriesOf(const PluginDescription& description, const fs::path& file) {
   CheckVersion(file, description);
   if (description.error) Refuse(file, description.error);
+  if (description.classCount > 0 && !description.classes)
+    Refuse(file, "it does not list its classes");
   std::vector<PluginFactory> factories;
   for (const PluginClass& entry : std::span(description.classes, description.classCount)) {
     factories.push_back(MakeFactory(file, entry));
   }
   return factories;
+}
+
+std::vector<PluginFactory> OpenPlugin(const fs::path& file) {
+  if (file.is_relative()) {
+    throw Failure(ErrorNumber::InvalidArgument, "Plugin",
+                  "The plug-in file \"" + file.string() + "\" is relative; give its full path");
+  }
+  return FactoriesOf(Describe(file), file);
 }
 
 }  // namespace platform

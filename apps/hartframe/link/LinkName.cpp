@@ -104,12 +104,12 @@ LinkName LinkName::Parse(const std::string& text) {
 void RequireKnownSettings(const LinkName& name, const std::set<std::string>& asked) {
   std::string known;
   for (const std::string& setting : asked) known += (known.empty() ? "" : ", ") + setting;
-  for (const auto& [setting, value] : name.settings) {
+  for (const auto& setting : name.settings) {
     const bool isKnown = std::any_of(asked.begin(), asked.end(), [&](const std::string& other) {
-      return platform::EqualsNoCase(setting, other);
+      return platform::EqualsNoCase(setting.first, other);
     });
     if (!isKnown) {
-      Refuse(name.text, "the link has no setting \"" + setting + "\"; it has: " + known);
+      Refuse(name.text, "the link has no setting \"" + setting.first + "\"; it has: " + known);
     }
   }
 }
