@@ -41,10 +41,11 @@ void CheckFactories(const PluginDescription& description, std::size_t given) {
     const auto factories = platform::FactoriesOf(description, "/plugin.so");
     fuzz::Check(!description.error && factories.size() == given, "every class has its factory");
     platform::ComponentClasses classes;
-    for (const auto& [name, create] : factories) {
+    for (const auto& factory : factories) {
       fuzz::Accepts([&] {
-        classes.Register(name, create);
-        fuzz::Check(classes.Create(name) != nullptr, "an object is made, or why not is told");
+        classes.Register(factory.className, factory.create);
+        fuzz::Check(classes.Create(factory.className) != nullptr,
+                    "an object is made, or why not is told");
       });
     }
   });

@@ -87,6 +87,8 @@ DeviceFile::DeviceFile(std::filesystem::path file) : file_(std::move(file)) {
 
 DeviceFile::Line DeviceFile::Parse(std::string text, const std::string& section,
                                    std::size_t number) const {
+  // One carriage return would go with every reading.
+  while (text.ends_with('\r')) text.pop_back();
   using Kind = platform::IniLine::Kind;
   const platform::IniLine parts = platform::ParseIniLine(text);
   Line line{"", section, "", ""};
@@ -157,8 +159,8 @@ void DeviceFile::Set(std::string_view section, std::string_view name, std::strin
         Line{found->name + "=" + Quoted(value), found->section, found->name, std::string(value)};
     return;
   }
-  const auto place = lines_.begin() + static_cast<std::ptrdiff_t>(EndOfSection(section));
-  lines_.insert(place,
+  const auto place = static_cast<std::ptrdiff_t>(EndOfSection(section));
+  lines_.insert(lines_.begin() + place,
                 Line{std::move(text), std::string(section), std::string(name), std::string(value)});
 }
 

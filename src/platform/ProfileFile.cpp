@@ -28,6 +28,7 @@ bool CanStandInFile(std::string_view section, std::string_view key, std::string_
 // Calls `visit` with each entry of the first section of that name until it returns false.
 template <typename Visit>
 void VisitEntries(std::string_view file, std::string_view section, Visit visit) {
+  section = Trim(section);
   TextReader reader(SystemPath(file));
   bool inside = false;
   while (const auto line = reader.ReadLine()) {
@@ -120,7 +121,7 @@ std::string ReadKey(std::string_view file, std::string_view section, std::string
   std::string text(defaultText.substr(0, defaultText.find_last_not_of(' ') + 1));
   IgnoreFailures([&] {
     VisitEntries(file, section, [&](const IniLine& entry) {
-      if (!EqualsNoCase(entry.name, key)) return true;
+      if (!EqualsNoCase(entry.name, Trim(key))) return true;
       text = Unquote(entry.value);
       return false;
     });

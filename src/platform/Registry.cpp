@@ -19,7 +19,8 @@ std::vector<std::string_view> KeyNames(std::string_view path) {
   std::vector<std::string_view> names;
   while (!path.empty()) {
     const std::size_t end = std::min(path.find(kSeparator), path.size());
-    if (end > 0) names.push_back(path.substr(0, end));
+    const std::string_view name = Trim(path.substr(0, end));
+    if (!name.empty()) names.push_back(name);
     path.remove_prefix(std::min(end + 1, path.size()));
   }
   return names;
