@@ -17,8 +17,9 @@ struct PluginFactory {
   std::function<std::shared_ptr<Object>()> create;
 };
 
-// The classes that a plug-in describes itself to have. Raises CannotCreateObject, naming the file and
-// what is wrong, for a description of another version, one that tells an error and one with holes.
+// The classes that a plug-in describes itself to have. Raises CannotCreateObject, naming the file
+// and what is wrong, for a description of another version, one that tells an error and one with
+// holes.
 std::vector<PluginFactory> FactoriesOf(const PluginDescription& description,
                                        const std::filesystem::path& file);
 
