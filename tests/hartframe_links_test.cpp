@@ -258,6 +258,26 @@ TEST_F(HartframeLink, RecordsWhatGoesOverEveryLink) {
   EXPECT_EQ(Run({"read", "tag", "--pcap", (folder_ / "none" / "x").string()}).code, 6);
 }
 
+// --- the serving program ---
+
+TEST_F(Hartframe, ServesUntilItIsAskedToEnd) {
+  const std::string line = (folder_ / "line").string();
+  std::string port = "0";
+  for (const int signal : {SIGINT, SIGTERM, SIGHUP}) {
+    ChildProgram serve(WithDevice({"serve", "--hart-ip", port, "--pty", line}),
+                       ChildProgram::Streams::Terminal);
+    ASSERT_TRUE(serve.WaitFor("pty " + line)) << serve.Error();
+    const std::size_t place = serve.Error().find("127.0.0.1:") + 10;
+    port = serve.Error().substr(place, serve.Error().find('\r', place) - place);
+    for (const std::string& link : {"hartip://127.0.0.1:" + port + "/tcp", "modem:" + line})
+      EXPECT_EQ(RunLine({"raw", "0", "--link", link}).code, 0) << "the same places each time";
+    serve.Signal(signal);
+    EXPECT_EQ(serve.Finish(), 0) << "signal " << signal;
+    EXPECT_THAT(serve.Error(), AllOf(HasSubstr("2 requests answered."), Not(HasSubstr("Load"))));
+    EXPECT_FALSE(std::filesystem::is_symlink(line));
+  }
+}
+
 // --- a modem's line ---
 
 TEST_F(Hartframe, WorksOverAModemsLine) {

@@ -22,12 +22,21 @@ void OnSignal(int signal) {
   std::raise(signal);
 }
 
+// Whoever starts a program so that it outlives the terminal (nohup) has hanging up ignored.
+bool IsIgnored(int signal) {
+  struct sigaction action {};
+  sigaction(signal, nullptr, &action);
+  return action.sa_handler == SIG_IGN;
+}
+
 void Install(void (*handler)(int)) {
   struct sigaction action {};
   action.sa_handler = handler;
   // Without SA_RESTART: a read from the terminal ends with it.
   sigemptyset(&action.sa_mask);
-  sigaction(SIGINT, &action, nullptr);
+  for (const int signal : {SIGINT, SIGTERM, SIGHUP}) {
+    if (signal != SIGHUP || !IsIgnored(signal)) sigaction(signal, &action, nullptr);
+  }
 }
 
 }  // namespace

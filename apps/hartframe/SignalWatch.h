@@ -6,8 +6,8 @@
 
 namespace hartframe {
 
-// Ctrl-C: the first one ends the running operation in an orderly way, a second one the process.
-// One object at a time.
+// Ctrl-C, and as well the signals that ask a program to end (SIGTERM, SIGHUP): the first one ends
+// the running operation in an orderly way, a second one the process. One object at a time.
 class SignalWatch {
  public:
   SignalWatch();

@@ -39,7 +39,7 @@ void ViewControl::Watch(std::vector<Definition> variables, platform::Millisecond
 }
 
 void ViewControl::ShowObject(const std::shared_ptr<ZAFHartTypes::DDObject>& object) {
-  if (!object->ObjectDefinition().IsSameAs(ProgressValue())) return;
+  if (!showsProgress_ || !object->ObjectDefinition().IsSameAs(ProgressValue())) return;
   if (const auto variable = object->MakeVariable()) ShowProgress(*variable);
 }
 

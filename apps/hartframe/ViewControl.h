@@ -25,6 +25,8 @@ class ViewControl : public Control, public ZAFHartTypes::IGuiCont2 {
   void Watch(std::vector<ZAFHartTypes::Definition> variables, platform::Milliseconds interval,
              Updated updated);
 
+  void SetShowsProgress(bool shows) { showsProgress_ = shows; }
+
   void ShowObject(const std::shared_ptr<ZAFHartTypes::DDObject>& object) override;
   void LifeSignal(ZAFHartTypes::LifeSignalCode code,
                   const ZAFHartTypes::SignalObject& object) override;
@@ -42,6 +44,7 @@ class ViewControl : public Control, public ZAFHartTypes::IGuiCont2 {
   Console& console_;
   const Speech& speech_;
   SignalWatch& signals_;
+  bool showsProgress_ = true;
   std::vector<ZAFHartTypes::Definition> watched_;
   platform::Milliseconds interval_{};
   platform::Milliseconds nextRound_{};

@@ -7,7 +7,6 @@
 #include <unistd.h>
 
 #include <cerrno>
-#include <csignal>
 #include <cstdlib>
 
 namespace support {
@@ -98,8 +97,8 @@ bool ChildProgram::WaitFor(const std::string& text) {
   return true;
 }
 
-void ChildProgram::Interrupt() {
-  kill(process_, SIGINT);
+void ChildProgram::Signal(int signal) {
+  kill(process_, signal);
 }
 
 void ChildProgram::Type(const std::string& line) {

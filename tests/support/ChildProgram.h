@@ -2,6 +2,7 @@
 
 #include <sys/types.h>
 
+#include <csignal>
 #include <string>
 #include <vector>
 
@@ -21,7 +22,8 @@ class ChildProgram {
 
   // Reads until the text has come on standard error (or the terminal); false at its end.
   bool WaitFor(const std::string& text);
-  void Interrupt();
+  void Interrupt() { Signal(SIGINT); }
+  void Signal(int signal);
   // Types a line on the terminal.
   void Type(const std::string& line);
   // Reads the rest and waits for the end: the exit code, or minus the number of the signal.

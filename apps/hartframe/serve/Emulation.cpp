@@ -18,6 +18,7 @@ constexpr int kNewestRevision = 7;
 
 // A device whose DTM has no value for it either is one of the newest revision.
 void Learn(Session& session, EmulatedDevice& device) {
+  session.View().SetShowsProgress(false);
   const auto address = static_cast<std::int32_t>(device.Number(kPollingAddress).value_or(0));
   session.Comm().SetAddressInformation(address, {}, {});
   LoadDataSet(session);

@@ -1,5 +1,6 @@
 #include "hartframe/browse/curses/EndSignals.h"
 
+#include <array>
 #include <csignal>
 
 #include "hartframe/SignalWatch.h"
@@ -9,10 +10,11 @@ namespace hartframe::browse::EndSignals {
 
 namespace {
 
-constexpr int kOrderly[] = {SIGTERM, SIGHUP};
+constexpr std::array kOrderly{SIGTERM, SIGHUP};
 constexpr int kCrashes[] = {SIGSEGV, SIGBUS, SIGFPE, SIGILL, SIGABRT};
 
 volatile std::sig_atomic_t hasCome = 0;
+std::array<struct sigaction, kOrderly.size()> before;  // what these signals did without a screen
 
 void RestoreTerminal() {
   endwin();
@@ -40,14 +42,17 @@ void Handle(int signal, void (*handler)(int)) {
 
 void Install() {
   hasCome = 0;
-  for (const int signal : kOrderly) Handle(signal, &OnOrderlyEnd);
+  for (std::size_t i = 0; i < kOrderly.size(); ++i) {
+    sigaction(kOrderly[i], nullptr, &before[i]);
+    Handle(kOrderly[i], &OnOrderlyEnd);
+  }
   for (const int signal : kCrashes) Handle(signal, &TakeItsCourse);
   SignalWatch::SetLastResort(&RestoreTerminal);
 }
 
 void Remove() {
   SignalWatch::SetLastResort(nullptr);
-  for (const int signal : kOrderly) Handle(signal, SIG_DFL);
+  for (std::size_t i = 0; i < kOrderly.size(); ++i) sigaction(kOrderly[i], &before[i], nullptr);
   for (const int signal : kCrashes) Handle(signal, SIG_DFL);
 }
 
