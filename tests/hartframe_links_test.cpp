@@ -137,7 +137,7 @@ TEST_F(HartframeLink, CtrlCEndsAWaitAtOnceAndKeepsWhatWasTyped) {
   for (const auto& [command, sign] :
        {std::pair{Arguments{"write", "alarm_delay=9", "--dtm", "SampleTemperature", "--trace", "1",
                             "--pending", pending},
-                  "IDDKernel"},
+                  "ReadVariable"},
         std::pair{Arguments{"scan"}, "Looking for devices"}}) {
     Arguments arguments = command;
     arguments.insert(arguments.end(), {"--link", link});

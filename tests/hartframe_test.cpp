@@ -86,11 +86,30 @@ TEST_F(Hartframe, InfoTellsWhoTheDeviceIs) {
 
 TEST_F(Hartframe, TraceGoesToStandardErrorAsDeepAsAsked) {
   const Result flat = Run({"read", "tag", "--trace", "1"});
-  EXPECT_THAT(flat.error, AllOf(HasSubstr("[ IDDKernel_ReadVariable\n  > Def: VARIABLE tag"),
-                                Not(HasSubstr("  [ IDDKernel_FindReadCommand"))));
-  const Result deep = Run({"read", "tag", "--trace", "1", "--trace-depth", "9"});
-  EXPECT_THAT(deep.error, HasSubstr("  [ IDDKernel_FindReadCommand"));
+  EXPECT_THAT(flat.error,
+              AllOf(HasSubstr("\n            ReadVariable  > Def: VARIABLE tag\n"),
+                    HasSubstr("  #13  > -  < 00 10 51 4B 74 DF"), HasSubstr("Commands  count "),
+                    Not(HasSubstr("  FindReadCommand")), Not(HasSubstr("\033["))));
+  const std::string file = (folder_ / "trace").string();
+  const Result deep = Run({"read", "tag", "--trace", "1", "--trace-depth", "9", "--trace-top", "0",
+                           "--trace-file", file});
+  EXPECT_THAT(TempFolder::Read(file),
+              AllOf(HasSubstr("    FindReadCommand"), Not(HasSubstr("Commands  count "))));
+  EXPECT_EQ(deep.error, "");
   EXPECT_EQ(flat.out, deep.out);
+}
+
+TEST_F(Hartframe, StopsAndAsksInColoursOnATerminal) {
+  ChildProgram program(WithDevice({"read", "tag", "--break", "ExecuteCommand", "--watch", "date"}),
+                       ChildProgram::Streams::Terminal);
+  ASSERT_TRUE(program.WaitFor("(hart) "));
+  program.Type("print tag");
+  ASSERT_TRUE(program.WaitFor("Label=Tag"));
+  program.Type("quit");
+  EXPECT_EQ(program.Finish(), 130);
+  EXPECT_THAT(program.Error(), HasSubstr("\033[1mExecuteCommand\033[0m  > Cmd: COMMAND"));
+  EXPECT_EQ(Run({"read", "tag", "--break", ":"}).code, 1);
+  EXPECT_EQ(Run({"browse", "--break", "error"}).code, 1);
 }
 
 // --- writing ---

@@ -2,7 +2,7 @@
 // traces in the user's language.
 #include <gtest/gtest.h>
 
-#include "hartframe/LanguageSegments.h"
+#include "debugger/TraceLanguage.h"
 #include "hartframe/ValueText.h"
 
 namespace {
@@ -23,7 +23,7 @@ TEST(HartframeTexts, TracesSpeakOneLanguage) {
        "VARIABLE a Value=1.5 Bar not available Error(6)=Bad Type=1"},
       {"> Val: Busy|de|Beschäftigt", "> Val: Beschäftigt"},
       {"> Val: 1|2|de", "> Val: 1|2|de"}};
-  for (const auto& row : rows) EXPECT_EQ(hartframe::InLanguage(row.line, "de"), row.german);
+  for (const auto& row : rows) EXPECT_EQ(ZAFHartDebugger::InLanguage(row.line, "de"), row.german);
 }
 
 TEST(HartframeTexts, WordsFollowTheirNumber) {

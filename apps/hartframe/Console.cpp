@@ -130,7 +130,10 @@ void Console::Status(std::string_view line) {
 }
 
 std::optional<std::string> Console::Ask(std::string_view question, const BreakCheck& isBroken) {
-  if (!canAsk_) return std::nullopt;
+  return canAsk_ ? Prompt(question, isBroken) : std::nullopt;
+}
+
+std::optional<std::string> Console::Prompt(std::string_view question, const BreakCheck& isBroken) {
   EraseBar();
   Print(stderr, question);
   std::string line;

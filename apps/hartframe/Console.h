@@ -48,6 +48,8 @@ class Console {
   // The answer without its line end; nothing when there is nobody to ask, at the end of the input
   // and when it was broken off.
   std::optional<std::string> Ask(std::string_view question, const BreakCheck& isBroken);
+  // The same for one who may also be a script: standard input may be a pipe.
+  std::optional<std::string> Prompt(std::string_view question, const BreakCheck& isBroken);
 
  private:
   void EraseBar();

@@ -8,8 +8,4 @@ namespace hartframe {
 // One of the languages of a multilingual text says just that, without regard to letter case.
 bool HasSegment(std::string_view multilingual, std::string_view text);
 
-// A line of a trace with its multilingual texts in one language. Such a text begins behind the "="
-// or ": " of its tag and ends with the line, or where the state of its variable begins.
-std::string InLanguage(std::string_view line, std::string_view language);
-
 }  // namespace hartframe

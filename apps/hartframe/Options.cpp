@@ -1,7 +1,5 @@
 #include "hartframe/Options.h"
 
-#include <unistd.h>
-
 #include <cstdlib>
 #include <map>
 
@@ -55,17 +53,6 @@ void AddOutputOptions(CLI::App& app, Options& options) {
       ->type_name("en|de|fr|it|es|kt")
       ->check(CLI::IsMember(kLanguages));
   app.add_flag("--json", options.json, "Machine-readable output");
-  app.add_option("--trace", options.trace,
-                 "Print trace lines up to this level to standard error: 1 what ran, 2 with results")
-      ->type_name("LEVEL")
-      ->check(CLI::Range(0, 9));
-  app.add_option("--trace-depth", options.traceDepth,
-                 "Nested operations to trace (default: the trace level)")
-      ->type_name("N")
-      ->check(CLI::Range(1, 1000));
-  app.add_option("--trace-detail", options.traceDetail, "Detail of traced objects (default: 1)")
-      ->type_name("N")
-      ->check(CLI::Range(0, 9));
 }
 
 void AddDataSetCommands(CommandAdder& adder, Options& options) {
@@ -171,9 +158,7 @@ void AddCommands(CommandAdder& adder, Options& options) {
 // The screen has the terminal to itself.
 void CheckBrowse(const Options& options) {
   if (options.json) throw CLI::ValidationError("--json does not go with browse");
-  if (options.trace && isatty(STDERR_FILENO) != 0) {
-    throw CLI::ValidationError("--trace would write over the screen: add 2>FILE");
-  }
+  CheckTraceBesideScreen(options.trace);
 }
 
 void Complete(Options& options) {
@@ -188,7 +173,6 @@ void Complete(Options& options) {
   }
   if (OpensPair(options) && options.dataSetFile.empty()) throw CLI::RequiredError("--dataset");
   if (options.command == CommandKind::Browse) CheckBrowse(options);
-  if (options.traceDepth == 0) options.traceDepth = options.trace.value_or(1);
 }
 
 }  // namespace
@@ -228,6 +212,7 @@ Options ParseCommandLine(int argc, char** argv) {
   AddLinkOptions(app, options);
   AddDataSetOption(app, options);
   AddOutputOptions(app, options);
+  AddTraceOptions(app, options.trace);
   CommandAdder adder(app, options);
   AddCommands(adder, options);
   AddDataSetCommands(adder, options);

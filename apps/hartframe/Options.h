@@ -8,6 +8,7 @@
 #include "hartframe/link/DeviceAddress.h"
 #include "hartframe/link/LinkName.h"
 #include "hartframe/serve/ServeOptions.h"
+#include "hartframe/trace/TraceOptions.h"
 #include "interfaces/Codes.h"
 
 namespace hartframe {
@@ -70,9 +71,7 @@ struct Options {
   bool browsePair = false;         // browse: the data set beside that of the device
   bool noUpload = false;           // save: what the data set holds as it is
 
-  std::optional<int> trace;  // highest level of trace lines; nothing: no tracing
-  int traceDepth = 0;        // highest stack level; 0: the same as `trace`
-  int traceDetail = 1;       // level of object descriptions
+  TraceOptions trace;
 
   std::vector<std::string> names;    // variables; read, list and watch take * and ?
   std::vector<std::string> changes;  // NAME=VALUE

@@ -5,13 +5,13 @@
 #include <cstdlib>
 
 #include "components/LibraryClasses.h"
-#include "hartframe/ConsoleTracer.h"
 #include "hartframe/MessageControl.h"
-#include "hartframe/NamePattern.h"
 #include "hartframe/PluginProbe.h"
+#include "hartframe/trace/Tracing.h"
 #include "interfaces/IDeviceConnection.h"
 #include "interfaces/InternalNames.h"
 #include "platform/Platform.h"
+#include "types/NamePattern.h"
 #include "workerdb/CDDWorkerDB.h"
 
 namespace hartframe {
@@ -21,6 +21,8 @@ namespace {
 using ZAFHartTypes::Definition;
 using ZAFHartTypes::ErrorNumber;
 using ZAFHartTypes::Failure;
+using ZAFHartTypes::IsPattern;
+using ZAFHartTypes::MatchesPattern;
 using ZAFHartTypes::ObjectKind;
 using ZAFHartTypes::Variant;
 namespace names = ZAFHartTypes::internal_names;
@@ -60,6 +62,7 @@ Session::Session(const Session& online, const Options& options)
 
 Session::~Session() {
   if (components_) components_->PrepareTermination();
+  if (debugger_) debugger_->End();
 }
 
 void Session::Open() {
@@ -73,7 +76,7 @@ void Session::Open() {
 void Session::PrepareClasses() {
   auto& classes = platform::Current().Classes();
   ZAFHartLib::RegisterLibraryClasses(classes);
-  if (options_.trace) ConsoleTracer::Connect(console_, options_);
+  if (options_.trace.IsOn()) debugger_ = StartTracing(options_, console_, *signals_);
   classes.SetPluginPath(options_.pluginPath);
   plugin_ = classes.FindPlugin(options_.dtm);
   if (!plugin_.empty()) ProbePlugin(plugin_);
@@ -106,7 +109,8 @@ void Session::RegisterControls() {
 }
 
 void Session::SetInterruptHandler() {
-  signals_->SetHandler([this] { components_->CancelOperation(); });
+  // An exchange that begins after the Ctrl-C is to end as well.
+  signals_->SetHandler([this] { components_->CancelOperation(); }, true);
 }
 
 void Session::Connect() {

@@ -18,6 +18,10 @@
 #include "hartframe/Speech.h"
 #include "hartframe/ViewControl.h"
 
+namespace ZAFHartDebugger {
+class Debugger;
+}
+
 namespace hartframe {
 
 class KeptDataSet;
@@ -114,6 +118,7 @@ class Session {
   std::shared_ptr<ViewControl> view_;
   std::shared_ptr<ZAFHartLib::CDDComponents> components_;
   std::shared_ptr<KeptDataSet> kept_;
+  std::shared_ptr<ZAFHartDebugger::Debugger> debugger_;  // nothing without a trace
 };
 
 }  // namespace hartframe

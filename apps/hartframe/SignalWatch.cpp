@@ -70,7 +70,7 @@ void SignalWatch::SetLastResort(void (*restore)()) {
 }
 
 void SignalWatch::Check() {
-  if (!Interrupted() || handled_) return;
+  if (!Interrupted() || (handled_ && !repeats_)) return;
   handled_ = true;
   if (handler_) handler_();
 }

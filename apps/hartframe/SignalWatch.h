@@ -15,8 +15,12 @@ class SignalWatch {
   SignalWatch(const SignalWatch&) = delete;
   SignalWatch& operator=(const SignalWatch&) = delete;
 
-  // What is done about it, on the thread of the message loop.
-  void SetHandler(std::function<void()> handler) { handler_ = std::move(handler); }
+  // What is done about it, on the thread of the message loop: once, or again and again until
+  // Resume, for what ends something that may only be about to begin.
+  void SetHandler(std::function<void()> handler, bool repeats = false) {
+    handler_ = std::move(handler);
+    repeats_ = repeats;
+  }
   bool Interrupted() const;
   // As if a Ctrl-C had come.
   void Interrupt();
@@ -30,6 +34,7 @@ class SignalWatch {
 
  private:
   std::function<void()> handler_;
+  bool repeats_ = false;
   bool handled_ = false;
   platform::Subscription timer_;
 };

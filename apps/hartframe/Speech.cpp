@@ -72,14 +72,4 @@ std::string Speech::Pick(std::string_view multilingual) const {
   return OneLine(ZAFHartLib::LangText(multilingual, language_));
 }
 
-std::string OneLine(std::string_view text) {
-  std::string line;
-  for (std::size_t at = 0; at < text.size();) {
-    const char32_t c = ZAFHartTypes::utf8::Next(text, at);
-    const bool control = c < 0x20 || (c >= 0x7F && c < 0xA0);
-    ZAFHartTypes::utf8::Append(line, control ? U' ' : c);
-  }
-  return line;
-}
-
 }  // namespace hartframe

@@ -4,6 +4,8 @@
 #include <string>
 #include <string_view>
 
+#include "types/Utf8.h"
+
 namespace hartframe {
 
 // The program's own texts; DD texts and the library's come in their own multilingual form.
@@ -101,7 +103,6 @@ class Speech {
   std::string language_;
 };
 
-// What can be shown in one line: control characters become blanks, broken bytes U+FFFD.
-std::string OneLine(std::string_view text);
+using ZAFHartTypes::utf8::OneLine;
 
 }  // namespace hartframe

@@ -119,7 +119,10 @@ bool CommWrapper::ExecuteCommand(std::int16_t number,
   }
   if (CompletesLocally()) return CompleteLocally(number, *transaction);
   const auto exchange = BuildExchange(number, transaction);
-  if (Reach(*exchange)) ExecuteAndWait(exchange, transaction);
+  if (Reach(*exchange))
+    ExecuteAndWait(exchange, transaction);
+  else
+    TellEnd(*exchange);
   lastCommandNumber_ = number;
   return ProcessReply(number, *exchange, *transaction);
 }
@@ -139,11 +142,20 @@ bool CommWrapper::CompleteLocally(std::int16_t number, Transaction& transaction)
   return false;
 }
 
+void CommWrapper::Send(const UnderWay& underWay) {
+  if (const auto observer = observer_.lock()) observer->ExchangeStarts(*underWay.exchange);
+  underWay.link->Execute(underWay.exchange);
+}
+
+void CommWrapper::TellEnd(const Exchange& exchange) const {
+  if (const auto observer = observer_.lock()) observer->ExchangeEnds(exchange);
+}
+
 void CommWrapper::ExecuteAndWait(const std::shared_ptr<Exchange>& exchange,
                                  const std::shared_ptr<Transaction>& transaction) {
   const UnderWay underWay{exchange, Link()};
   const Waiting waiting(waiting_, underWay);
-  underWay.link->Execute(exchange);
+  Send(underWay);
   CLockObject lock;
   lock.SetLock(model_.Gui());
   clsEventDispatcher dispatcher;
@@ -153,6 +165,7 @@ void CommWrapper::ExecuteAndWait(const std::shared_ptr<Exchange>& exchange,
     dispatcher.WaitStep(kWaitStep);
     model_.Gui()->LifeSignal(LifeSignalCode::Waiting, signal);
   }
+  TellEnd(*exchange);
   if (exchange->State() == ExchangeState::Cancelled) {
     throw Failure(ErrorNumber::Cancelled, Source("ExecuteCommand"));
   }

@@ -33,6 +33,7 @@ using ZAFHartTypes::Transaction;
 class CommWrapper : public platform::Object,
                     public ZAFHartTypes::IDDCommWrapper,
                     public ZAFHartTypes::ILinkUser,
+                    public ZAFHartTypes::IObservedExchanges,
                     public ZAFHartTypes::ICommCallback,
                     public IExchangeCompletion,
                     public std::enable_shared_from_this<CommWrapper> {
@@ -68,6 +69,11 @@ class CommWrapper : public platform::Object,
   void SetLinkClass(const std::string& className) override;
   void SetLink(std::shared_ptr<ILink> link) override;
   bool CancelExchange() override;
+
+  // --- IObservedExchanges ---
+  void SetExchangeObserver(std::weak_ptr<ZAFHartTypes::IExchangeObserver> observer) override {
+    observer_ = std::move(observer);
+  }
 
   // --- ICommCallback, IExchangeCompletion ---
   void CommCallback_Finisched(const std::shared_ptr<Exchange>& exchange) override;
@@ -132,6 +138,9 @@ class CommWrapper : public platform::Object,
   };
   class Waiting;
 
+  void Send(const UnderWay& underWay);
+  void TellEnd(const Exchange& exchange) const;
+
   // --- one command ---
   bool CompleteLocally(std::int16_t number, Transaction& transaction);
   std::shared_ptr<Exchange> BuildExchange(std::int16_t number,
@@ -158,6 +167,7 @@ class CommWrapper : public platform::Object,
   std::shared_ptr<ILink> ownLink_;    // made from linkClass_
   std::vector<UnderWay> waiting_;     // synchronous exchanges, the innermost last
   std::vector<UnderWay> background_;  // asynchronous exchanges
+  std::weak_ptr<ZAFHartTypes::IExchangeObserver> observer_;
   frmAsynchronizer asynchronizer_;
 };
 

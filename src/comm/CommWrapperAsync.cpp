@@ -51,10 +51,10 @@ bool CommWrapper::AsyncExecuteCommand(const std::shared_ptr<CommandRef>& referen
 }
 
 void CommWrapper::StartInBackground(const std::shared_ptr<Exchange>& exchange) {
-  const auto link = Link();
-  background_.push_back({exchange, link});
+  const UnderWay underWay{exchange, Link()};
+  background_.push_back(underWay);
   try {
-    link->Execute(exchange);
+    Send(underWay);
   } catch (const Failure&) {
     // The caller knows by the failure; there is nothing left to complete.
     DropBackground(exchange);
@@ -64,6 +64,7 @@ void CommWrapper::StartInBackground(const std::shared_ptr<Exchange>& exchange) {
 
 void CommWrapper::CommCallback_Finisched(const std::shared_ptr<Exchange>& exchange) {
   if (!model_.Get()) return;
+  if (exchange->State() != ZAFHartTypes::ExchangeState::Created) TellEnd(*exchange);
   if (!asynchronizer_.IsVisible()) IgnoreFailures([this] { asynchronizer_.Show(); });
   if (asynchronizer_.IsVisible()) {
     asynchronizer_.ExchangeQueue().push_back(exchange);

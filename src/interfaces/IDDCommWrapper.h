@@ -57,4 +57,23 @@ class ILinkUser {
   virtual bool CancelExchange() = 0;
 };
 
+// Is told of every exchange of a wrapper. Must not throw.
+class IExchangeObserver {
+ public:
+  virtual ~IExchangeObserver() = default;
+  // The exchange goes to the link, with its request.
+  virtual void ExchangeStarts(const Exchange& exchange) = 0;
+  // It has ended as its state tells; a Completed one has its reply. One that could not be sent ends
+  // without a start.
+  virtual void ExchangeEnds(const Exchange& exchange) = 0;
+};
+
+// Offered by wrappers that let one observer see their exchanges.
+class IObservedExchanges {
+ public:
+  virtual ~IObservedExchanges() = default;
+  // Not owned; takes the place of an earlier one.
+  virtual void SetExchangeObserver(std::weak_ptr<IExchangeObserver> observer) = 0;
+};
+
 }  // namespace ZAFHartTypes

@@ -104,6 +104,16 @@ std::string Repaired(std::string_view text) {
   return result;
 }
 
+std::string OneLine(std::string_view text) {
+  std::string line;
+  for (std::size_t at = 0; at < text.size();) {
+    const char32_t c = Next(text, at);
+    const bool control = c < 0x20 || (c >= 0x7F && c < 0xA0);
+    Append(line, control ? U' ' : c);
+  }
+  return line;
+}
+
 std::string ToLatin1(std::string_view text) {
   std::string bytes;
   bytes.reserve(text.size());

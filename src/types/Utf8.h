@@ -21,6 +21,9 @@ std::string_view Prefix(std::string_view text, std::size_t count);
 bool IsValid(std::string_view text);
 // The text with every broken byte replaced by U+FFFD.
 std::string Repaired(std::string_view text);
+// What can be shown in one line of a terminal: control characters become blanks, broken bytes
+// U+FFFD.
+std::string OneLine(std::string_view text);
 
 // Latin-1 as HART devices store it; a code point that Latin-1 lacks becomes '?'.
 std::string ToLatin1(std::string_view text);

@@ -1,10 +1,10 @@
-#include "hartframe/NamePattern.h"
+#include "types/NamePattern.h"
 
 #include <string>
 
 #include "types/TextKey.h"
 
-namespace hartframe {
+namespace ZAFHartTypes {
 
 namespace {
 
@@ -37,7 +37,7 @@ bool IsPattern(std::string_view text) {
 }
 
 bool MatchesPattern(std::string_view name, std::string_view pattern) {
-  return Matches(ZAFHartTypes::FoldCase(name), ZAFHartTypes::FoldCase(pattern));
+  return Matches(FoldCase(name), FoldCase(pattern));
 }
 
-}  // namespace hartframe
+}  // namespace ZAFHartTypes
