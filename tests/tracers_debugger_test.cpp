@@ -117,7 +117,7 @@ TEST_F(DebuggedDtm, ShowsATreeWithDurationsAndTheBytesOfCommands) {
 
 TEST_F(DebuggedDtm, StepsFromABreakAndLooksAround) {
   Debug("level 0; depth 0; top 0; break FindRead*:TAG; break ExecuteCommand:#12");
-  const std::string answers = "where\n\nnext\nstep\nprint tag\nprint *_tag\nout\nout\nstep\n";
+  const std::string answers = "where\n\nnext\nstep\nprint tag\nprint *_tag\nout\nout\nnext\n";
   const std::vector<std::string> lines = Read("tag", answers);
   EXPECT_THAT(
       Stops(lines),

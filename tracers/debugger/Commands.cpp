@@ -40,12 +40,14 @@ int Number(const Call& call, int least, int most) {
   return number;
 }
 
-// A step is taken from where the execution stands.
+// A step is taken from where the execution stands; out of an operation that has ended it leads out
+// of its caller.
 template <Step step>
 Outcome Go(const Call& call) {
   OperationStack& operations = *call.place.operations;
   const Operation* const innermost = operations.Innermost();
-  call.debugger.Go(step, innermost ? innermost->level : 0);
+  const std::int32_t running = innermost ? innermost->level : 0;
+  call.debugger.Go(step, step == Step::Out ? running : call.place.level);
   return Outcome::GoesOn;
 }
 

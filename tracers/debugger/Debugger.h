@@ -21,6 +21,7 @@ struct StopPlace {
   OperationStack* operations = nullptr;
   std::shared_ptr<ZAFHartTypes::IDDWorkerDB> database;  // may be nothing
   Time now{};
+  std::int32_t level = 0;  // of the operation that starts, has ended or is running; 0 for none
 };
 
 // What the tracers of a host have in common: settings, breaks, watched names, figures and the

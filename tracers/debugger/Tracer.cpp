@@ -116,7 +116,7 @@ std::int32_t Tracer::TraceStackBreak(std::int32_t stackLevel, const Database& da
   if (isStart) Start(*operation, database);
   CheckWatches(database);
   if (!isStart && !operation && debugger_->Steps().StopsAtEnd(stackLevel))
-    Stop(lastTitle_, database);
+    Stop(lastTitle_, database, stackLevel);
   Follow();
   return 0;
 }
@@ -190,8 +190,11 @@ void Tracer::TellChange(const DDObject& before, const DDObject& now) {
   if (debugger_->Breaks().Changing(name)) changed_ = name;
 }
 
-void Tracer::Stop(const std::string& reason, const Database& database) {
-  debugger_->Ask({&operations_, database, debugger_->Now()}, reason);
+void Tracer::Stop(const std::string& reason, const Database& database, std::int32_t endedLevel) {
+  const Operation* const innermost = operations_.Innermost();
+  const std::int32_t running = innermost ? innermost->level : 0;
+  debugger_->Ask({&operations_, database, debugger_->Now(), endedLevel > 0 ? endedLevel : running},
+                 reason);
   Follow();
 }
 

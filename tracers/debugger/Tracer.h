@@ -59,7 +59,8 @@ class Tracer : public platform::Object,
   void TellChange(const ZAFHartTypes::DDObject& before, const ZAFHartTypes::DDObject& now);
   bool ShowsExchanges();
   void ShowError(const std::string& text);
-  void Stop(const std::string& reason, const Database& database);
+  // `endedLevel`: of the operation that has ended, 0 when none has.
+  void Stop(const std::string& reason, const Database& database, std::int32_t endedLevel = 0);
   TraceView& View() { return debugger_->View(); }
 
   std::shared_ptr<Debugger> debugger_;
