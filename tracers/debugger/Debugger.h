@@ -30,6 +30,8 @@ class Debugger {
  public:
   explicit Debugger(std::shared_ptr<Terminal> terminal, Settings settings = {},
                     TimeSource now = SteadyTime);
+  Debugger(const Debugger&) = delete;
+  Debugger& operator=(const Debugger&) = delete;
 
   // --- for hosts ---
   Settings& Edit() {
