@@ -82,6 +82,7 @@ TEST_F(HartframeLink, WhatAnUnpluggedDeviceDidNotGetIsWrittenLater) {
   EXPECT_EQ(Over({"write", "--dataset", set}).code, 2) << "nobody there";
   Plug();
   const Result again = Over({"write", "--dataset", set});
+  EXPECT_EQ(again.code, 0) << again.error;
   EXPECT_THAT(again.out, AllOf(HasSubstr("Two "), HasSubstr("40 of 40 written to the device.")));
   EXPECT_THAT(TempFolder::Read(device_),
               AllOf(HasSubstr("\nlong_tag=Two\n"), HasSubstr("\nfinal_assembly_number=3\n")));

@@ -30,6 +30,18 @@ bool IsChange(const WriteResult& result, const std::vector<Change>& changes) {
   });
 }
 
+// What only the download has marked is no change of anybody's; what of it the configuration does
+// not have would be refused by every later write.
+void UnmarkInvalid(Session& session, const std::vector<Definition>& changed) {
+  for (const Definition& definition : PendingVariables(session)) {
+    const bool isChange = std::any_of(changed.begin(), changed.end(), [&](const Definition& other) {
+      return other.IsSameAs(definition);
+    });
+    if (!isChange && !session.Variable(definition)->Validity())
+      session.Database().SetVariableToBeWritten(definition, false);
+  }
+}
+
 // A whole data set is too long to tell: what was changed, and what did not go as it was meant.
 void TellDownload(Session& session, std::vector<WriteResult> results,
                   const std::vector<Change>& changes) {
@@ -77,11 +89,13 @@ ExitCode RunDownload(Session& session) {
 
 ExitCode DownloadAndTell(Session& session, const Loaded& loaded, const std::vector<Change>& changes,
                          const std::vector<Change>& notAccepted) {
+  const std::vector<Definition> changed = PendingVariables(session);
   WriteWatch watch(session, WritableOf(loaded));
   Definition menu;
   const bool finished = session.Run([&] { session.Components().Download(menu); });
   const std::vector<WriteResult> results = watch.Results();
   watch.RestoreUnanswered(results);
+  UnmarkInvalid(session, changed);
   TellDownload(session, results, changes);
   KeepPending(session, notAccepted);
   const ExitCode refused = notAccepted.empty() ? ExitCode::Ok : ExitCode::ValueRefused;

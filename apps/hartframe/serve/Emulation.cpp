@@ -1,5 +1,7 @@
 #include "hartframe/serve/Emulation.h"
 
+#include <utility>
+
 #include "comm/DtmCatalogue.h"
 #include "hart/HexText.h"
 #include "hartframe/DataSet.h"
@@ -40,18 +42,18 @@ std::string OrDash(std::string text) {
 Emulation::Emulation(Session& session) : session_(session) {
   const auto device = session.Device();
   const Options& options = session.Settings();
-  HartLinkSim::Faults faults;
-  AddFaults(faults, options);
+  AddFaults(faults_, options);
   if (options.serve.pollingAddress) {
     device->SetValue(kPollingAddress, *options.serve.pollingAddress);
   }
   Learn(session, *device);
   wire_ = std::make_unique<HartLinkSim::WireDevice>(
       device, std::make_shared<ZAFHartLib::DtmCatalogue>(session.Components().shared_from_this()));
-  wire_->LinkFaults() = std::move(faults);
 }
 
 std::optional<WireReply> Emulation::Answer(const hart::DecodedFrame& request) {
+  if (!faults_.IsEmpty() && answered_ >= session_.Settings().serve.sparedRequests)
+    wire_->LinkFaults() = std::exchange(faults_, {});
   auto reply = wire_->Answer(request);
   if (reply) ++answered_;
   if (session_.Settings().serve.verbose) TellRequest(request, reply);

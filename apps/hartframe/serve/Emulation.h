@@ -31,6 +31,7 @@ class Emulation {
 
   Session& session_;
   std::unique_ptr<HartLinkSim::WireDevice> wire_;
+  HartLinkSim::Faults faults_;  // that are still to come
   std::size_t answered_ = 0;
   std::set<std::string> errors_;  // told already
 };

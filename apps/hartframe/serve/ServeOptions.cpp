@@ -88,6 +88,10 @@ void AddServeCommand(CommandAdder& adder, Options& options) {
       ->type_name("[LINK]")
       ->expected(0, 1)
       ->trigger_on_parse();
+  command
+      .add_option("--fault-after", serve.sparedRequests,
+                  "--fault and --latency strike when so many requests have been answered")
+      ->type_name("N");
   command.add_flag("--verbose", serve.verbose, "A line per request");
 }
 

@@ -25,7 +25,8 @@ struct ServeOptions {
   bool udp = true;
   bool tcp = true;
   bool pty = false;
-  std::filesystem::path ptyLink;  // that leads to the pseudo terminal; empty: none
+  std::filesystem::path ptyLink;   // that leads to the pseudo terminal; empty: none
+  std::size_t sparedRequests = 0;  // that the faults do not strike
   bool verbose = false;
 };
 
