@@ -6,6 +6,7 @@ namespace {
 using namespace support;
 using testing::AllOf;
 using testing::HasSubstr;
+using testing::Not;
 
 // --- faults ---
 
@@ -123,6 +124,32 @@ TEST_F(Hartframe, DeviceFilesThatCannotBeUsedAreExplained) {
   EXPECT_EQ(broken.code, 6);
   EXPECT_THAT(broken.error, HasSubstr("ine 77"));
   EXPECT_THAT(TempFolder::Read(device_), HasSubstr("\ndamping_value 2.5\n")) << "left alone";
+}
+
+// The manual page and what completes the command line in bash are made of what the parser knows.
+TEST_F(Hartframe, DocumentsItself) {
+  const Result page = RunLine({"print-man-page"});
+  EXPECT_EQ(page.code, 0);
+  EXPECT_THAT(page.out, HasSubstr(".SS \\fBsave\\fR \\fIFILE\\fR [\\fINAME=VALUE\\fR]\n"));
+  EXPECT_THAT(page.out, HasSubstr("\n\\fB\\-\\-pcap\\fR \\fIFILE\\fR\n"));
+  EXPECT_THAT(page.out, HasSubstr(".TP\n130\nended by Ctrl\\-C\n"));
+  EXPECT_THAT(page.out, Not(HasSubstr("probe")));
+
+  const std::string script = RunLine({"print-bash-completion"}).out + R"(
+    COMP_WORDS=("$@"); COMP_CWORD=$(($# - 1)); _hartframe; echo "${COMPREPLY[*]}")";
+  const std::pair<std::vector<std::string>, const char*> cases[] = {
+      {{"hartframe", "downl"}, "download\n"},
+      {{"hartframe", "--lang", "f"}, "fr\n"},
+      {{"hartframe", "--json", "upload", "--dis"}, "--discard\n"},
+      {{"hartframe", "--address", ""}, "\n"},
+  };
+  for (const auto& [words, completed] : cases) {
+    std::vector<std::string> arguments{"/bin/bash", "-c", script, "bash"};
+    arguments.insert(arguments.end(), words.begin(), words.end());
+    ChildProgram bash(arguments, ChildProgram::Streams::Pipes);
+    EXPECT_EQ(bash.Finish(), 0);
+    EXPECT_EQ(bash.Out(), completed);
+  }
 }
 
 TEST_F(Hartframe, WrongArgumentsAreUsageErrors) {

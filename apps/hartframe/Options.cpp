@@ -1,11 +1,14 @@
 #include "hartframe/Options.h"
 
 #include <cstdlib>
+#include <iostream>
 #include <map>
 
 #include "hartframe/CommandAdder.h"
 #include "hartframe/ExitCode.h"
 #include "hartframe/link/LinkOptions.h"
+#include "hartframe/manual/Completion.h"
+#include "hartframe/manual/ManPage.h"
 #include "platform/Version.h"
 
 namespace hartframe {
@@ -155,6 +158,20 @@ void AddCommands(CommandAdder& adder, Options& options) {
   probe.add_option("plugin", options.plugin)->required();
 }
 
+// For packagers: prints what the command line's descriptions make, and ends.
+void AddDocuments(CLI::App& app) {
+  const auto add = [&app](const char* name, std::string (*make)(const CLI::App&)) {
+    CLI::App& document = *app.add_subcommand(name, "");
+    document.group("");
+    document.callback([&app, make] {
+      std::cout << make(app);
+      throw CLI::Success();
+    });
+  };
+  add("print-man-page", ManPage);
+  add("print-bash-completion", BashCompletion);
+}
+
 // The screen has the terminal to itself.
 void CheckBrowse(const Options& options) {
   if (options.json) throw CLI::ValidationError("--json does not go with browse");
@@ -218,6 +235,7 @@ Options ParseCommandLine(int argc, char** argv) {
   AddDataSetCommands(adder, options);
   AddLinkCommands(adder, options);
   AddServeCommand(adder, options);
+  AddDocuments(app);
   try {
     app.parse(argc, argv);
     Complete(options);
