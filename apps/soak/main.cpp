@@ -15,7 +15,7 @@ std::size_t BytesInUse() {
 
 // The heap breathes with the length of lists and texts.
 bool HasGrown(std::size_t before, std::size_t after) {
-  constexpr std::size_t kAllowance = 256 * 1024;
+  constexpr std::size_t kAllowance = std::size_t{256} * 1024;
   return after > before + kAllowance;
 }
 

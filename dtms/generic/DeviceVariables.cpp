@@ -126,15 +126,15 @@ void DescribeDeviceVariables(DeviceDescription& dd) {
 }
 
 void DescribeDeviceVariableCommands(DeviceDescription& dd) {
-  constexpr auto kArray = hart::kDeviceVariables;
-  constexpr auto kCode = hart::kDeviceVariableCode;
-  const auto member = [](std::string_view name, std::uint32_t mask = 0) {
-    return Element(kArray, kCode, name, mask);
+  const std::string_view array = hart::kDeviceVariables;
+  const std::string_view code = hart::kDeviceVariableCode;
+  const auto member = [&](std::string_view name, std::uint32_t mask = 0) {
+    return Element(array, code, name, mask);
   };
   // HART command 9, since revision 6; before it command 33
   ReadsWhen(dd.Command("read_device_variables_with_status", 9, Operation::Read)
-                .Request({Index(kCode)})
-                .Reply({"extended_device_status", Index(kCode), member("CLASSIFICATION"),
+                .Request({Index(code)})
+                .Reply({"extended_device_status", Index(code), member("CLASSIFICATION"),
                         member("UNITS"), member("VALUE"), member("DATA_QUALITY", 0xC0),
                         member("LIMIT_STATUS", 0x30), member("FAMILY_STATUS", 0x0F)})
                 .TransactionCodes({hart::InvalidSelection()})
@@ -146,14 +146,14 @@ void DescribeDeviceVariableCommands(DeviceDescription& dd) {
   hart::DescribeUnitCommands(dd);
   // HART command 54; later revisions add what is read by command 9 as well
   dd.Command("read_device_variable_information", 54, Operation::Read)
-      .Request({Index(kCode)})
-      .Reply({Index(kCode), member("SERIAL_NUMBER"), member("LIMITS_UNITS"), member("UPPER_LIMIT"),
+      .Request({Index(code)})
+      .Reply({Index(code), member("SERIAL_NUMBER"), member("LIMITS_UNITS"), member("UPPER_LIMIT"),
               member("LOWER_LIMIT"), member("DAMPING"), member("MINIMUM_SPAN")})
       .Codes(hart::ReadCodes({hart::InvalidSelection(), hart::TooFewDataBytes()}));
   // HART command 55
   dd.Command("write_device_variable_damping", 55, Operation::Write)
-      .Request({Index(kCode), member("DAMPING")})
-      .Reply({Index(kCode), member("DAMPING")})
+      .Request({Index(code), member("DAMPING")})
+      .Reply({Index(code), member("DAMPING")})
       .Codes(hart::WriteCodes({hart::ParameterTooLarge(),
                                hart::ParameterTooSmall(),
                                hart::SetToNearestValue(),

@@ -22,6 +22,14 @@ Form FormOf(const Layout& layout) {
                                  DataItem::Reference(VariableNamed(kDeviceStatus))})};
 }
 
+using Forms = std::shared_ptr<const std::vector<Form>>;
+
+Forms FormsOf(const std::vector<Layout>& layouts) {
+  std::vector<Form> forms;
+  for (const Layout& layout : layouts) forms.push_back(FormOf(layout));
+  return std::make_shared<const std::vector<Form>>(std::move(forms));
+}
+
 }  // namespace
 
 Revision RevisionOf(Context& context) {
@@ -51,11 +59,7 @@ void ByRevision(CommandBuilder command, std::int16_t transaction,
   command.Transaction(transaction)
       .Request(layouts.front().request)
       .Reply(layouts.front().reply)
-      .OnCompute([transaction, forms = [&] {
-        std::vector<Form> all;
-        for (const Layout& layout : layouts) all.push_back(FormOf(layout));
-        return std::make_shared<const std::vector<Form>>(std::move(all));
-      }()](Context& context, Command& computed) {
+      .OnCompute([transaction, forms = FormsOf(layouts)](Context& context, Command& computed) {
         const Revision revision = RevisionOf(context);
         const auto form =
             std::find_if(forms->rbegin(), forms->rend(),

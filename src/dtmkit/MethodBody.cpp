@@ -29,7 +29,8 @@ std::exception_ptr RunBody(const MethodBody& body, IDDBuiltinLib& dd) {
 
 void RunAbortMethods(Context& context, const IDDBuiltinLib& dd,
                      const std::shared_ptr<DDObject>& object) {
-  const DefinitionList methods = dd.AbortMethodsList();  // an abort method may change the list
+  // NOLINTNEXTLINE(performance-unnecessary-copy-initialization): a method may change the list
+  const DefinitionList methods = dd.AbortMethodsList();
   for (const Definition& method : methods) {
     IgnoreFailures([&] { context.Kernel().ExecuteMethod(method, object, true); });
   }

@@ -33,9 +33,9 @@ class MenuVariables {
   using Names = std::unordered_set<ZAFHartTypes::TextKey, ZAFHartTypes::TextKeyHash>;
 
   void CollectItem(const ZAFHartTypes::Definition& item);
-  void CollectVariable(const ZAFHartTypes::Definition& variable);
-  void CollectEditDisplay(const ZAFHartTypes::Definition& display);
-  void CollectGroup(const ZAFHartTypes::Definition& group);
+  void CollectVariable(const ZAFHartTypes::Definition& definition);
+  void CollectEditDisplay(const ZAFHartTypes::Definition& definition);
+  void CollectGroup(const ZAFHartTypes::Definition& definition);
 
   ZAFHartTypes::IDDKernel& kernel_;
   ZAFHartTypes::IDDComponents& components_;

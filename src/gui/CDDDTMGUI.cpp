@@ -106,7 +106,8 @@ void CDDDTMGUI::RegisterCtrl(const Control& nobj) {
 }
 
 void CDDDTMGUI::UnregisterCtrl(const Control& nobj) {
-  const Control control = nobj;  // the reference may be one of those cleared here
+  // NOLINTNEXTLINE(performance-unnecessary-copy-initialization): one of those cleared here, maybe
+  const Control control = nobj;
   controls_.Remove(control);
   if (activeControl_ == control) activeControl_.reset();
   if (messageControl_ == control) messageControl_.reset();

@@ -167,7 +167,7 @@ std::vector<std::uint8_t> WithPreambles(Bytes frame, int preambles) {
 }
 
 std::uint8_t CheckByte(Bytes bytes) {
-  return std::accumulate(bytes.begin(), bytes.end(), std::uint8_t{0}, std::bit_xor<std::uint8_t>());
+  return std::accumulate(bytes.begin(), bytes.end(), std::uint8_t{0}, std::bit_xor<>());
 }
 
 std::string_view FaultText(FrameFault fault) {

@@ -108,7 +108,7 @@ class CHARTKernel : public platform::Object,
   void ExecuteWriteAsOne(std::shared_ptr<WriteAsOne>& group, std::shared_ptr<Variable>& variable,
                          bool isEntered) override;
 
-  void ExecuteMethod(const Definition& method, const std::shared_ptr<DDObject>& object,
+  void ExecuteMethod(const Definition& definition, const std::shared_ptr<DDObject>& object,
                      bool inAbort = false) override;
 
   std::shared_ptr<Menu> StartMenu(const Definition& definition) override;

@@ -27,7 +27,7 @@ class ParityMarks {
 
 // A serial port or a pseudo terminal by the system's terminal interface: eight data bits, one stop
 // bit, no flow control, for this program alone.
-class SerialPort : public ByteChannel {
+class SerialPort final : public ByteChannel {
  public:
   explicit SerialPort(const ModemOptions& options);
   ~SerialPort() override;

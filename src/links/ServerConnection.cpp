@@ -11,7 +11,7 @@ namespace hart = ZAFHartTypes::hart;
 namespace {
 
 // A client that takes no answers gets no more of them.
-constexpr std::size_t kMaxUnsent = 256 * 1024;
+constexpr std::size_t kMaxUnsent = std::size_t{256} * 1024;
 
 platform::MessageLoop& Loop() {
   return platform::Current().Loop();

@@ -70,7 +70,7 @@ void SocketChannel::Received(hart::Bytes bytes) {
   user_.OnReceive(bytes);
 }
 
-void SocketChannel::Sent(hart::Bytes bytes) {
+void SocketChannel::TellSent(hart::Bytes bytes) {
   if (observer_) observer_->OnBytes(flow_, Direction::Sent, bytes);
 }
 
@@ -88,7 +88,7 @@ void UdpChannel::Send(hart::Bytes message) {
   Guard([&] {
     const bool taken =
         isConnected_ ? socket_->Send(message) : socket_->SendTo(GetFlow().peer, message);
-    if (taken) Sent(message);
+    if (taken) TellSent(message);
   });
 }
 
@@ -141,7 +141,7 @@ void TcpChannel::FinishConnect() {
 
 void TcpChannel::Send(hart::Bytes message) {
   unsent_.insert(unsent_.end(), message.begin(), message.end());
-  Sent(message);
+  TellSent(message);
   Guard([&] { Flush(); });
 }
 

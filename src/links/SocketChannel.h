@@ -46,7 +46,7 @@ class SocketChannel : public IpChannel {
       LoseLater(failure.Description());
     }
   }
-  void Sent(ZAFHartTypes::hart::Bytes bytes);
+  void TellSent(ZAFHartTypes::hart::Bytes bytes);
   // Why the address that was tried last did not do.
   void SetReason(std::string reason) { reason_ = std::move(reason); }
 

@@ -53,7 +53,7 @@ class EmulatedDevice {
   // Keeps the memory in a file from now on (see DeviceFile) and takes over what it holds; a missing
   // file is made with the first save. Raises InvalidArgument for a broken line, naming file and
   // line; memory and file are then as before.
-  void UseFile(const std::filesystem::path& file, SaveMode mode = SaveMode::EveryChange);
+  void UseFile(const std::filesystem::path& path, SaveMode mode = SaveMode::EveryChange);
   // Writes the file when there is one and something changed. Raises PathFileAccess.
   void Save();
 

@@ -88,15 +88,16 @@ bool SimulatedLink::Take(const Exchange& exchange) {
 }
 
 void SimulatedLink::Complete(Exchange& exchange, const ActiveFaults& faults) {
-  std::optional<Reply> reply;
+  bool isAnswered = false;
   try {
-    reply = ReplyTo(exchange, faults);
+    auto reply = ReplyTo(exchange, faults);
+    isAnswered = reply.has_value();
     if (reply) Deliver(exchange, *std::move(reply));
   } catch (const Failure&) {
     exchange.Finish(ExchangeState::NoReply, ExchangeResult::None);
     throw;
   }
-  if (!reply) return exchange.Finish(ExchangeState::NoReply, ExchangeResult::None);
+  if (!isAnswered) return exchange.Finish(ExchangeState::NoReply, ExchangeResult::None);
   if (faults.wrongCommand) {
     exchange.SetCommandNumber(static_cast<std::int16_t>(exchange.CommandNumber() ^ 1));
   }

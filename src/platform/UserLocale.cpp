@@ -1,7 +1,7 @@
 #include "platform/UserLocale.h"
 
 #include <langinfo.h>
-#include <locale.h>
+#include <locale.h>  // NOLINT(modernize-deprecated-headers): POSIX, newlocale
 
 #include <algorithm>
 #include <array>

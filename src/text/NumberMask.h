@@ -21,7 +21,7 @@ struct NumberMask {
   char exponentLetter = 0;  // 'E', 'e', or 0 for none
   bool plusInExponent = false;
 
-  static NumberMask Parse(std::string_view mask);
+  static NumberMask Parse(std::string_view text);
   // "#." and `fraction` zeros.
   static NumberMask Fraction(int fraction);
 };

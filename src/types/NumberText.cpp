@@ -70,8 +70,9 @@ double Evaluate(const NumberParts& parts) {
   if (std::from_chars(plain.data(), plain.data() + plain.size(), value).ec == std::errc{}) {
     return value;
   }
-  const bool tiny = parts.exponent.empty() ? parts.whole.find_first_not_of('0') == parts.whole.npos
-                                           : parts.exponentNegative;
+  const bool tiny = parts.exponent.empty()
+                        ? parts.whole.find_first_not_of('0') == std::string_view::npos
+                        : parts.exponentNegative;
   if (tiny) return 0;
   throw Failure(ErrorNumber::Overflow, "Variant");
 }
@@ -86,8 +87,9 @@ std::string NumberToText(double value, int digits) {
   const auto result = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value,
                                     std::chars_format::general, digits);
   std::string text(buffer.data(), result.ptr);
-  if (const std::size_t exponent = text.find('e'); exponent != text.npos) text[exponent] = 'E';
-  if (const std::size_t point = text.find('.'); point != text.npos) {
+  if (const std::size_t exponent = text.find('e'); exponent != std::string::npos)
+    text[exponent] = 'E';
+  if (const std::size_t point = text.find('.'); point != std::string::npos) {
     text.replace(point, 1, Separator());
   }
   return text;

@@ -54,7 +54,7 @@ void Browser::ChooseLanguage() {
   std::size_t selected = 0;
   for (const Language& language : kLanguages) {
     if (language.code == say.Language()) selected = entries.size();
-    entries.push_back(language.name);
+    entries.emplace_back(language.name);
   }
   ChoiceDialog dialog(say, {DialogStyle::Question, say(texts::kLanguage), {}, {}}, entries,
                       selected);

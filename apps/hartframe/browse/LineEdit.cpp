@@ -6,7 +6,7 @@ namespace hartframe::browse {
 
 namespace utf8 = ZAFHartTypes::utf8;
 
-LineEdit::LineEdit(std::string text) {
+LineEdit::LineEdit(std::string_view text) {
   for (std::size_t at = 0; at < text.size();) text_ += utf8::Next(text, at);
   cursor_ = text_.size();
 }

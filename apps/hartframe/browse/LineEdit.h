@@ -9,7 +9,7 @@ namespace hartframe::browse {
 // A line of text that is being typed.
 class LineEdit {
  public:
-  explicit LineEdit(std::string text);
+  explicit LineEdit(std::string_view text);
 
   std::string Text() const;
   // In characters, from 0 (before the first).

@@ -33,7 +33,7 @@ std::string AddressText(const hart::LinkAddress& address) {
   return address.isLong ? hart::ToHex(address.bytes) : std::to_string(address.bytes[0]);
 }
 
-std::string OrDash(std::string text) {
+std::string OrDash(const std::string& text) {
   return text.empty() ? "-" : text;
 }
 

@@ -99,7 +99,8 @@ void CompleteServe(Options& options) {
   if (!options.givenLink) options.link = LinkKind::Device;
   if (options.link != LinkKind::Device) throw CLI::ValidationError("serve needs --link device");
   ServeOptions& serve = options.serve;
-  if (!serve.hartIp && (!serve.pty || !serve.udp || !serve.tcp)) serve.hartIp.emplace();
+  if (!serve.hartIp && (!serve.pty || !serve.udp || !serve.tcp))
+    serve.hartIp = ServeOptions::Listen{};
 }
 
 }  // namespace hartframe
