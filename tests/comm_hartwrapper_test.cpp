@@ -235,7 +235,7 @@ TEST_F(HartWrapperTest, Addresses) {
   hart->SetAddressing(Addressing::Tag);
   hart->SetAddressInformation(0, "TT 1", "");
   EXPECT_FALSE(hart->Connect());
-  EXPECT_THAT(line->TakeLog(), ElementsAre("11@0000000000", "21@0000000000"));
+  EXPECT_THAT(line->TakeLog(), ElementsAre("11@0000000000", "21@0000000000", "21@0000000000"));
   line->tagData = "514831820820";  // "TT 1    " in Packed ASCII
   EXPECT_TRUE(hart->Connect());
   // It is found by its long address as well once its tag is another.

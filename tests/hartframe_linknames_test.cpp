@@ -60,6 +60,7 @@ TEST(HartframeAddress, IsAPollingAddressATagOrALongAddress) {
   EXPECT_EQ(parsed("tag:64"), "tag 64");
   EXPECT_EQ(parsed("26061a2b3c"), "long 26061A2B3C");
   EXPECT_EQ(parsed("1234567890"), "long 1234567890");
+  EXPECT_EQ(parsed("0x26061a2b3c"), "long 26061A2B3C");
   EXPECT_EQ(parsed("TT-4711"), "tag TT-4711");
   EXPECT_EQ(parsed("Ä" + std::string(31, 'x')), "tag Ä" + std::string(31, 'x'));
   EXPECT_EQ(parsed(std::string(33, 'x')), "none");

@@ -243,6 +243,8 @@ TEST_F(HartframeLink, RawCommandsGoAsTheyAre) {
   EXPECT_EQ(Over({"raw", "13", "--address", "5"}).code, 0);
   EXPECT_EQ(Over({"raw", "13", "--address", "0"}).code, 2) << "nobody there any more";
   EXPECT_EQ(OverJson({"raw", "999", "--address", kLongAddress}, 3)["reply"]["responseCode"], 64);
+  const Json extended = OverJson({"raw", "31", "0x03e7", "00", "--address", kLongAddress}, 3);
+  EXPECT_EQ(extended["reply"]["command"], 999) << "the number that command 31 carries";
   EXPECT_EQ(Over({"raw", "0", "0G"}).code, 1);
   EXPECT_EQ(Over({"raw", "6", "01", "--user-level", "observer"}).code, 7);
 }

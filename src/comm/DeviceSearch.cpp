@@ -81,7 +81,8 @@ DeviceSearch::DeviceSearch(const DeviceTarget& target, const std::string& knownA
   end_ = requests_.size() * static_cast<std::size_t>(rounds);
 }
 
-// A short tag may be the tag or the long tag of a device.
+// A short tag may be the tag or the long tag of a device. Some devices fill up long tags with
+// blanks instead of NUL, and compare all of it.
 void DeviceSearch::AddTagRequests(const std::string& tag, const std::string& knownAddress) {
   const std::size_t length = ZAFHartTypes::utf8::Length(tag);
   RequireAddress(length > 0 && length <= kLongTagSize,
@@ -90,6 +91,10 @@ void DeviceSearch::AddTagRequests(const std::string& tag, const std::string& kno
     requests_.push_back({kReadUniqueIdentifierByTag, kBroadcast, PackedText(tag)});
   }
   requests_.push_back({kReadUniqueIdentifierByLongTag, kBroadcast, Latin1Text(tag)});
+  if (length < kLongTagSize) {
+    const std::string blanks(kLongTagSize - length, ' ');
+    requests_.push_back({kReadUniqueIdentifierByLongTag, kBroadcast, Latin1Text(tag + blanks)});
+  }
   if (!knownAddress.empty()) requests_.push_back({kReadUniqueIdentifier, knownAddress, ""});
 }
 

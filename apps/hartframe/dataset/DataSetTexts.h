@@ -156,9 +156,10 @@ inline constexpr const char* kNewDataSet =
     "dati \"{0}\", con i valori predefiniti del DTM.|es|Nuevo conjunto de datos \"{0}\", con los "
     "valores predeterminados del DTM.|kt|Atarashii deetasetto \"{0}\", DTM no shokichi desu.";
 inline constexpr const char* kSaved =
-    "{0} variables saved in \"{1}\".|de|{0} Variablen in \"{1}\" gespeichert.|fr|{0} variables "
-    "enregistrées dans \"{1}\".|it|{0} variabili salvate in \"{1}\".|es|{0} variables guardadas en "
-    "\"{1}\".|kt|{0} no hensuu o \"{1}\" ni hozon shimashita.";
+    "{0} {0:variable/variables} saved in \"{1}\".|de|{0} {0:Variable/Variablen} in \"{1}\" "
+    "gespeichert.|fr|{0} {0:variable enregistrée/variables enregistrées} dans \"{1}\".|it|{0} "
+    "{0:variabile salvata/variabili salvate} in \"{1}\".|es|{0} {0:variable guardada/variables "
+    "guardadas} en \"{1}\".|kt|{0} no hensuu o \"{1}\" ni hozon shimashita.";
 inline constexpr const char* kNotSaved =
     "The data set could not be loaded completely, so nothing was saved.|de|Der Datensatz konnte "
     "nicht vollständig geladen werden, daher wurde nichts gespeichert.|fr|Le jeu de données n'a "

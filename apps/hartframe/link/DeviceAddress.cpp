@@ -55,10 +55,11 @@ DeviceAddress Polled(const std::string& text) {
 
 DeviceAddress DeviceAddress::Parse(const std::string& text) {
   if (text.starts_with(kTagPrefix)) return Tagged(std::string_view(text).substr(kTagPrefix.size()));
-  if (text.size() == kLongAddressDigits && AllOf(text, "0123456789ABCDEFabcdef")) {
+  const std::string digits = text.starts_with("0x") ? text.substr(2) : text;
+  if (digits.size() == kLongAddressDigits && AllOf(digits, "0123456789ABCDEFabcdef")) {
     DeviceAddress address;
     address.addressing = Addressing::LongAddress;
-    address.longAddress = hart::ToHex(hart::FromHex(text));
+    address.longAddress = hart::ToHex(hart::FromHex(digits));
     return address;
   }
   return AllOf(text, "0123456789") ? Polled(text) : Tagged(text);

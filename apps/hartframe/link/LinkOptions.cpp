@@ -20,6 +20,19 @@ auto Parsed(const std::string& option, const std::string& text, Parser parse) {
   }
 }
 
+// Hexadecimal digits, two for each byte; "0x" may stand before them, blanks between the bytes.
+void AddBytes(std::vector<std::uint8_t>& data, const std::string& text) {
+  const bool isPrefixed = text.starts_with("0x") || text.starts_with("0X");
+  try {
+    const std::vector<std::uint8_t> bytes = hart::FromHex(text.substr(isPrefixed ? 2 : 0));
+    data.insert(data.end(), bytes.begin(), bytes.end());
+  } catch (const platform::Failure&) {
+    throw CLI::ValidationError("BYTES", '"' + text +
+                                            "\" is no data: each byte has two hexadecimal digits, "
+                                            "as in 00 3F or 003F");
+  }
+}
+
 void AddEmulatorOptions(CLI::App& app, Options& options) {
   app.add_option("--device", options.deviceFile,
                  "Memory of the emulated device; changes are kept in it. Changes that could not "
@@ -60,14 +73,14 @@ void CheckRealLink(const Options& options) {
     if (options.faults.empty() && options.latencyMilliseconds == 0) return;
     throw CLI::ValidationError("--fault and --latency need an emulated device");
   }
+  if (IsWithoutDtm(options.command)) {
+    throw CLI::ValidationError("scan and raw need a real link: --link hartip://… or modem:…");
+  }
   if (options.retries || options.busyAttempts) {
     throw CLI::ValidationError("--retries and --busy need a real link: hartip://… or modem:…");
   }
   if (options.address.addressing != ZAFHartTypes::Addressing::PollingAddress) {
     throw CLI::ValidationError("an emulated device has a polling address only: --address 0 to 63");
-  }
-  if (IsWithoutDtm(options.command)) {
-    throw CLI::ValidationError("scan and raw need a real link: --link hartip://… or modem:…");
   }
 }
 
@@ -114,11 +127,9 @@ void AddLinkCommands(CommandAdder& adder, Options& options) {
   raw.add_option_function<std::vector<std::string>>(
          "bytes",
          [&options](const std::vector<std::string>& texts) {
-           std::string all;
-           for (const std::string& text : texts) all += text + ' ';
-           options.rawData = Parsed("BYTES", all, hart::FromHex);
+           for (const std::string& text : texts) AddBytes(options.rawData, text);
          },
-         "Data bytes, in hexadecimal digits")
+         "Data bytes, two hexadecimal digits each: 00 3F or 003F")
       ->type_name("BYTES");
 }
 

@@ -19,7 +19,7 @@ struct FoundDevice {
 
 // The answer to a raw command.
 struct RawReply {
-  int command = 0;
+  int command = 0;                  // of command 31: the number in its data
   std::string address;              // a polling address or a long address
   std::vector<std::uint8_t> bytes;  // from the response code on; two at least
 };

@@ -1,5 +1,6 @@
 #include "comm/ConnectionTexts.h"
 #include "comm/DeviceSearch.h"
+#include "hart/LinkFrame.h"
 #include "hart/StatusBytes.h"
 #include "hartframe/link/DirectLink.h"
 #include "hartframe/link/LinkCommands.h"
@@ -32,6 +33,14 @@ std::string LookUp(DirectLink& link, const DeviceAddress& address, const Speech&
   return search.Found()->LongAddress();
 }
 
+// Command 31 carries the number of another one in its data.
+int CommandNumber(const Options& options) {
+  const auto& data = options.rawData;
+  const bool isExtended =
+      options.rawCommand == hart::kExtendedCommand && data.size() >= hart::kExtendedNumberSize;
+  return isExtended ? data[0] << 8 | data[1] : options.rawCommand;
+}
+
 ExitCode CodeOf(const RawReply& reply) {
   if (hart::IsCommunicationError(reply.bytes[0])) return ExitCode::Communication;
   return hart::IsCarriedOut(reply.bytes[0]) ? ExitCode::Ok : ExitCode::DeviceRefused;
@@ -53,7 +62,7 @@ ExitCode RunRaw(const Options& options, const Speech& say, Report& report) {
       request.longAddress.empty() ? std::to_string(request.pollingAddress) : request.longAddress;
   const auto bytes = link.Ask(request);
   if (!bytes) Fail(ZAFHartLib::NoDeviceText(address, link.Way().LastError()), say);
-  const RawReply reply{options.rawCommand, address, *bytes};
+  const RawReply reply{CommandNumber(options), address, *bytes};
   report.Reply(reply);
   return CodeOf(reply);
 }
