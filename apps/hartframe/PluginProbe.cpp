@@ -31,6 +31,15 @@ constexpr std::size_t kMostOutput = 2000;
                        "The plug-in \"" + file.string() + "\" cannot be loaded: " + reason);
 }
 
+// The file of the running program, which a tool that runs it in its place knows, too; the system's
+// own name for it when somebody has replaced the file meanwhile.
+std::string ThisProgram() {
+  constexpr const char* kSelf = "/proc/self/exe";
+  std::error_code error;
+  const fs::path program = fs::read_symlink(kSelf, error);
+  return !error && fs::exists(program, error) ? program.string() : kSelf;
+}
+
 // A child process whose standard error is read here. Ended, if need be, and reaped with its scope.
 class Child {
  public:
@@ -42,12 +51,12 @@ class Child {
     posix_spawn_file_actions_init(&actions);
     posix_spawn_file_actions_adddup2(&actions, ends[1], STDERR_FILENO);
     posix_spawn_file_actions_addopen(&actions, STDOUT_FILENO, "/dev/null", O_WRONLY, 0);
-    std::string program = "hartframe";
+    std::string program = ThisProgram();
     std::string command = "probe-plugin";
     std::string file = plugin.string();
     char* arguments[] = {program.data(), command.data(), file.data(), nullptr};
     const int error =
-        posix_spawn(&process_, "/proc/self/exe", &actions, nullptr, arguments, environ);
+        posix_spawn(&process_, program.c_str(), &actions, nullptr, arguments, environ);
     posix_spawn_file_actions_destroy(&actions);
     close(ends[1]);
     if (error != 0) {
