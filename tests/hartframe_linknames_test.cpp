@@ -56,6 +56,8 @@ TEST(HartframeAddress, IsAPollingAddressATagOrALongAddress) {
   };
   EXPECT_EQ(parsed("63"), "polling 63");
   EXPECT_EQ(parsed("64"), "none");
+  EXPECT_EQ(parsed("Gr\u00FC\u00DFe"), "tag Gr\u00FC\u00DFe");
+  EXPECT_EQ(parsed("Gr\u00FC\u2192"), "none");
   EXPECT_EQ(parsed("99999999999999999999"), "none");
   EXPECT_EQ(parsed("tag:64"), "tag 64");
   EXPECT_EQ(parsed("26061a2b3c"), "long 26061A2B3C");

@@ -85,12 +85,9 @@ bool ChecksDialog::OnBodyKey(const Key& key) {
 
 // --- a line ---
 
-FieldDialog::FieldDialog(const Speech& speech, DialogHead head, std::string text, bool hidden,
+FieldDialog::FieldDialog(const Speech& speech, DialogHead head, std::string_view text, bool hidden,
                          Check check)
-    : Dialog(speech, std::move(head)),
-      line_(std::move(text)),
-      hidden_(hidden),
-      check_(std::move(check)) {}
+    : Dialog(speech, std::move(head)), line_(text), hidden_(hidden), check_(std::move(check)) {}
 
 void FieldDialog::DrawBody(DialogPicture& picture, int room) {
   picture.field = FieldPicture{line_.Text(), line_.Cursor(), hidden_};

@@ -72,7 +72,8 @@ class FieldDialog : public Dialog {
   // Says why a text is not accepted; "" when it is.
   using Check = std::function<std::string(const std::string&)>;
 
-  FieldDialog(const Speech& speech, DialogHead head, std::string text, bool hidden, Check check);
+  FieldDialog(const Speech& speech, DialogHead head, std::string_view text, bool hidden,
+              Check check);
   std::string Text() const { return line_.Text(); }
 
  protected:

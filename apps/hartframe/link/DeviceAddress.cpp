@@ -28,11 +28,22 @@ bool AllOf(std::string_view text, std::string_view characters) {
   return !text.empty() && text.find_first_not_of(characters) == std::string_view::npos;
 }
 
+// Tags are Latin-1 on the wire; another character would ask for another device.
+bool IsLatin1(std::string_view text) {
+  for (std::size_t at = 0; at < text.size();) {
+    if (ZAFHartTypes::utf8::Next(text, at) > 0xFF) return false;
+  }
+  return true;
+}
+
 DeviceAddress Tagged(std::string_view tag) {
   const std::size_t length = ZAFHartTypes::utf8::Length(tag);
   if (length == 0 || length > kLongestTag) {
     Refuse("\"" + std::string(tag) +
            "\" is no tag: tags have 1 to 8 characters, long tags up to 32");
+  }
+  if (!IsLatin1(tag)) {
+    Refuse("\"" + std::string(tag) + "\" has characters that no tag can have: tags are Latin-1");
   }
   DeviceAddress address;
   address.addressing = Addressing::Tag;
