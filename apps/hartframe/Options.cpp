@@ -180,7 +180,7 @@ void CheckBrowse(const Options& options) {
 
 void Complete(Options& options) {
   for (fs::path& folder : options.pluginPath) folder = fs::absolute(folder);
-  options.pluginPath.push_back((ProgramFolder() / "../lib/dtms").lexically_normal());
+  options.pluginPath.push_back((ProgramFolder() / ZAF_DTMS_FROM_PROGRAMS).lexically_normal());
   CompleteLink(options);
   if (options.command == CommandKind::Serve) CompleteServe(options);
   const bool needsDtm =

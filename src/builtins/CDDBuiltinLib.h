@@ -12,6 +12,7 @@
 #include "ddobjects/KeyedList.h"
 #include "interfaces/ComponentBase.h"
 #include "interfaces/IDDBuiltinLib.h"
+#include "platform/Export.h"
 #include "platform/Object.h"
 #include "resources/enumDDResourceIDs.h"
 
@@ -21,9 +22,9 @@ class CDDWorkerDB;
 
 // The builtins of one run of a method; see IDDBuiltinLib. Needs the library's own worker database,
 // which keeps what was before the method.
-class CDDBuiltinLib : public platform::Object,
-                      public ZAFHartTypes::IDDBuiltinLib,
-                      public ZAFHartTypes::IDDBuiltinLib2 {
+class ZAF_API CDDBuiltinLib : public platform::Object,
+                              public ZAFHartTypes::IDDBuiltinLib,
+                              public ZAFHartTypes::IDDBuiltinLib2 {
  public:
   using ByteBuffer = ZAFHartTypes::ByteBuffer;
   using StatusByte = ZAFHartTypes::StatusByte;

@@ -5,6 +5,7 @@
 
 #include "ddobjects/SupportedDevices.h"
 #include "hart/DeviceIdentity.h"
+#include "platform/Export.h"
 
 // Why there is no connection, as users are told: multilingual, and what to do about it.
 namespace ZAFHartLib {
@@ -12,15 +13,15 @@ namespace ZAFHartLib {
 class DeviceSearch;
 
 // `reason` is what the link tells; "" when nobody answered.
-std::string NoDeviceText(const std::string& address, std::string reason);
+ZAF_API std::string NoDeviceText(const std::string& address, std::string reason);
 // Of a search that found nobody: as above, or that somebody answered without an identity.
-std::string NotFoundText(const DeviceSearch& search, const std::string& address,
-                         const std::string& reason);
+ZAF_API std::string NotFoundText(const DeviceSearch& search, const std::string& address,
+                                 const std::string& reason);
 // "" for a device that the DTM is for: one of `supported`, or any when that is empty.
-std::string WrongDeviceText(std::span<const ZAFHartTypes::SupportedDevice> supported,
-                            const ZAFHartTypes::hart::DeviceIdentity& found);
+ZAF_API std::string WrongDeviceText(std::span<const ZAFHartTypes::SupportedDevice> supported,
+                                    const ZAFHartTypes::hart::DeviceIdentity& found);
 // Another unit than before; `before` is what is known of that.
-std::string OtherDeviceText(const std::string& before,
-                            const ZAFHartTypes::hart::DeviceIdentity& found);
+ZAF_API std::string OtherDeviceText(const std::string& before,
+                                    const ZAFHartTypes::hart::DeviceIdentity& found);
 
 }  // namespace ZAFHartLib

@@ -9,11 +9,12 @@
 #include "hart/DeviceIdentity.h"
 #include "interfaces/IDeviceConnection.h"
 #include "interfaces/ILink.h"
+#include "platform/Export.h"
 
 namespace ZAFHartLib {
 
 // Where a device is looked for.
-struct DeviceTarget {
+struct ZAF_API DeviceTarget {
   ZAFHartTypes::Addressing addressing = ZAFHartTypes::Addressing::Automatic;
   std::int32_t pollingAddress = 0;  // 0 to 63
   std::string tag;                  // of 8 characters, or a long tag of 32
@@ -27,7 +28,7 @@ struct DeviceTarget {
 
 // Asks for a device's identity, one exchange after the other, until somebody answers or all rounds
 // are over. It makes the exchanges without the DD and leaves it to its owner to send them.
-class DeviceSearch {
+class ZAF_API DeviceSearch {
  public:
   // A device that has been met under `knownAddress` is found by it as well when its tag has been
   // changed; "" for none. Raises InvalidArgument for an address that is none.

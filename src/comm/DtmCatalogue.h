@@ -6,6 +6,7 @@
 #include "ddobjects/Command.h"
 #include "interfaces/ComponentBase.h"
 #include "linksim/CommandCatalogue.h"
+#include "platform/Export.h"
 
 namespace ZAFHartLib {
 
@@ -13,7 +14,7 @@ namespace ZAFHartLib {
 // (INDEX and INFO items) and what the device has taken is stored in the instance, so that layouts
 // follow from it; live values go on moving there. Raises ObjectNotSet once the instance has been
 // torn down.
-class DtmCatalogue : public HartLinkSim::CommandCatalogue {
+class ZAF_API DtmCatalogue : public HartLinkSim::CommandCatalogue {
  public:
   explicit DtmCatalogue(const std::shared_ptr<ZAFHartTypes::IDDComponents>& components);
   HartLinkSim::FoundCommand Find(std::uint16_t number, ZAFHartTypes::hart::Bytes request) override;

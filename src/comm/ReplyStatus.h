@@ -7,6 +7,7 @@
 
 #include "ddobjects/ByteBuffer.h"
 #include "ddobjects/ResponseCode.h"
+#include "platform/Export.h"
 
 namespace ZAFHartLib {
 
@@ -24,14 +25,14 @@ struct ReplyError {
 
 // Takes the first two bytes of a reply apart: with bit 7 set, the first is a communication error
 // byte, otherwise a response code. `reply` has at least two bytes.
-ZAFHartTypes::CommandStatus SplitStatus(std::span<const std::uint8_t> reply);
+ZAF_API ZAFHartTypes::CommandStatus SplitStatus(std::span<const std::uint8_t> reply);
 
 // The error of a status; nothing when there is none. The text of a response code comes from `codes`
 // (any type of code, warnings too), else from the string table.
-std::optional<ReplyError> ErrorOf(const ZAFHartTypes::CommandStatus& status,
-                                  const ZAFHartTypes::ResponseCodeList& codes);
+ZAF_API std::optional<ReplyError> ErrorOf(const ZAFHartTypes::CommandStatus& status,
+                                          const ZAFHartTypes::ResponseCodeList& codes);
 
 // The error of a variable whose bytes are missing in a reply that reports success.
-ReplyError MissingBytesError();
+ZAF_API ReplyError MissingBytesError();
 
 }  // namespace ZAFHartLib

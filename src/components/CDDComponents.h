@@ -4,6 +4,7 @@
 #include <string>
 
 #include "interfaces/IDDComponents.h"
+#include "platform/Export.h"
 #include "platform/Object.h"
 
 namespace ZAFHartLib {
@@ -17,9 +18,9 @@ namespace ZAFHartLib {
 //
 // It owns all components; they refer back to it weakly. All calls come on one thread, the one whose
 // platform was current when it was made.
-class CDDComponents : public platform::Object,
-                      public ZAFHartTypes::IDDComponents,
-                      public std::enable_shared_from_this<CDDComponents> {
+class ZAF_API CDDComponents : public platform::Object,
+                              public ZAFHartTypes::IDDComponents,
+                              public std::enable_shared_from_this<CDDComponents> {
  public:
   static std::shared_ptr<CDDComponents> Create();
   // Tears the instance down when that has not been done.

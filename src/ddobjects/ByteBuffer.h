@@ -6,11 +6,13 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/Export.h"
+
 namespace ZAFHartTypes {
 
 // Indexed byte container; indexes count from 0. Used for command status bytes (0 response code,
 // 1 communication status, 2 device status) and additional device status.
-class ByteBuffer {
+class ZAF_API ByteBuffer {
  public:
   ByteBuffer() = default;
   ByteBuffer(std::initializer_list<std::uint8_t> bytes) : bytes_(bytes) {}

@@ -2,11 +2,12 @@
 
 #include "ddobjects/DDObject.h"
 #include "ddobjects/Transaction.h"
+#include "platform/Export.h"
 
 namespace ZAFHartTypes {
 
 // A HART command with its transactions. Searches and executions work on copies of it.
-class Command : public DDObject {
+class ZAF_API Command : public DDObject {
  public:
   static constexpr ObjectKind kKind = ObjectKind::Command;
   explicit Command(const ZAFHartTypes::Definition& definition) : DDObject(definition) {}
@@ -47,7 +48,7 @@ class Command : public DDObject {
 
 // Result of a command search and argument of an asynchronous execution: a command and the number of
 // one of its transactions. Held by std::shared_ptr; its address identifies an execution.
-class CommandRef {
+class ZAF_API CommandRef {
  public:
   CommandRef() = default;
   CommandRef(std::shared_ptr<ZAFHartTypes::Command> command, std::int16_t transactionNumber)

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "ddobjects/Definition.h"
+#include "platform/Export.h"
 
 namespace ZAFHartTypes {
 
@@ -24,7 +25,7 @@ class ItemCollection;
 //
 // The worker database owns the stored objects. Variables read from it are independent snapshots;
 // objects of the other kinds are the stored ones themselves.
-class DDObject : public std::enable_shared_from_this<DDObject> {
+class ZAF_API DDObject : public std::enable_shared_from_this<DDObject> {
  public:
   virtual ~DDObject();
   DDObject& operator=(const DDObject&) = delete;

@@ -7,6 +7,7 @@
 
 #include "ddobjects/Codes.h"
 #include "ddobjects/Definition.h"
+#include "platform/Export.h"
 #include "types/Variant.h"
 
 namespace ZAFHartTypes {
@@ -14,7 +15,7 @@ namespace ZAFHartTypes {
 class Variable;
 
 // One item of a transaction's request or reply: a constant byte, or a reference to a variable.
-class DataItem {
+class ZAF_API DataItem {
  public:
   static DataItem Constant(Variant value);
   // `mask` other than 0: the item takes just those bits of a byte group shared with its neighbours.
@@ -56,7 +57,7 @@ class DataItem {
 };
 
 // Items in wire order; positions count from 1. Copying copies the items, bindings kept.
-class DataItemList {
+class ZAF_API DataItemList {
  public:
   DataItemList() = default;
   DataItemList(std::initializer_list<DataItem> items) : items_(items) {}

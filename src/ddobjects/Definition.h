@@ -4,13 +4,14 @@
 #include <string_view>
 
 #include "ddobjects/Codes.h"
+#include "platform/Export.h"
 #include "types/TextKey.h"
 
 namespace ZAFHartTypes {
 
 // Identity of a DD item: its name and kind. Immutable and as cheap to copy as two pointers. An
 // empty one stands for "none". Objects refer to one another by Definition, never by address.
-class Definition {
+class ZAF_API Definition {
  public:
   Definition() = default;
   // The definition of the item `name`.
@@ -39,6 +40,6 @@ class Definition {
 };
 
 // "VARIABLE", "COMMAND", … as trace lines name the kinds.
-std::string_view KindWord(ObjectKind kind);
+ZAF_API std::string_view KindWord(ObjectKind kind);
 
 }  // namespace ZAFHartTypes

@@ -6,11 +6,12 @@
 #include <vector>
 
 #include "ddobjects/Definition.h"
+#include "platform/Export.h"
 
 namespace ZAFHartTypes {
 
 // Ordered list of definitions; positions count from 1.
-class DefinitionList {
+class ZAF_API DefinitionList {
  public:
   DefinitionList() = default;
   DefinitionList(std::initializer_list<Definition> definitions) : definitions_(definitions) {}

@@ -4,6 +4,7 @@
 
 #include "ddobjects/DDObject.h"
 #include "ddobjects/DefinitionList.h"
+#include "platform/Export.h"
 #include "types/SharedText.h"
 
 namespace ZAFHartTypes {
@@ -14,7 +15,7 @@ struct EditDisplayItem {
 };
 using EditDisplayItems = std::vector<EditDisplayItem>;
 
-class EditDisplay : public DDObject {
+class ZAF_API EditDisplay : public DDObject {
  public:
   static constexpr ObjectKind kKind = ObjectKind::EditDisplay;
   explicit EditDisplay(const ZAFHartTypes::Definition& definition) : DDObject(definition) {}

@@ -4,10 +4,12 @@
 #include <string>
 #include <vector>
 
+#include "platform/Export.h"
+
 namespace ZAFHartTypes {
 
 // A value of an enumerated type with its texts (multilingual).
-class EnumItem {
+class ZAF_API EnumItem {
  public:
   EnumItem() = default;
   EnumItem(std::int32_t value, std::string description, std::string help = {})
@@ -32,7 +34,7 @@ class EnumItem {
 using BitItem = EnumItem;
 
 // Values of an enumerated type, in the order they were added.
-class EnumList {
+class ZAF_API EnumList {
  public:
   EnumList() = default;
   EnumList(std::initializer_list<EnumItem> items) : items_(items) {}

@@ -11,6 +11,7 @@
 #include "ddobjects/Method.h"
 #include "ddobjects/Relations.h"
 #include "ddobjects/Variable.h"
+#include "platform/Export.h"
 #include "platform/Object.h"
 
 namespace ZAFHartTypes {
@@ -31,7 +32,7 @@ class IDDKernel;
 // conditional parts of the DD on it and returns it; one that does not own the item, or has nothing
 // to evaluate, returns it unchanged. It may call back into the kernel. Failures reach the caller of
 // the getter.
-class IDDDataModel {
+class ZAF_API IDDDataModel {
  public:
   virtual ~IDDDataModel() = default;
 
@@ -107,7 +108,7 @@ enum class StandardName : std::int32_t {
 };
 
 // Object that each DTM provides beside its data model, created as "<project>.KernelInformation".
-class IKernelInformation {
+class ZAF_API IKernelInformation {
  public:
   virtual ~IKernelInformation() = default;
   // Name of one of the DTM's standard DD objects; "" when it has none.

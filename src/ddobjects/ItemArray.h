@@ -3,6 +3,7 @@
 #include <vector>
 
 #include "ddobjects/DDObject.h"
+#include "platform/Export.h"
 #include "types/SharedText.h"
 
 namespace ZAFHartTypes {
@@ -13,7 +14,7 @@ struct ArrayElement {
   ZAFHartTypes::Definition definition;
 };
 
-class ItemArray : public DDObject {
+class ZAF_API ItemArray : public DDObject {
  public:
   static constexpr ObjectKind kKind = ObjectKind::ItemArray;
   explicit ItemArray(const ZAFHartTypes::Definition& definition) : DDObject(definition) {}
@@ -42,7 +43,7 @@ struct CollectionMember {
   ZAFHartTypes::Definition definition;
 };
 
-class ItemCollection : public DDObject {
+class ZAF_API ItemCollection : public DDObject {
  public:
   static constexpr ObjectKind kKind = ObjectKind::Collection;
   explicit ItemCollection(const ZAFHartTypes::Definition& definition) : DDObject(definition) {}

@@ -3,12 +3,13 @@
 #include <vector>
 
 #include "ddobjects/DDObject.h"
+#include "platform/Export.h"
 #include "types/SharedText.h"
 
 namespace ZAFHartTypes {
 
 // Qualifiers of a menu item, as bits of MenuQualifier.
-class MenuQualifiers {
+class ZAF_API MenuQualifiers {
  public:
   bool Qualifier(MenuQualifier index) const {
     return ((bits_ >> static_cast<unsigned>(index)) & 1U) != 0;
@@ -23,7 +24,7 @@ class MenuQualifiers {
 };
 
 // An entry of a menu: the item it shows and its qualifiers.
-class MenuItem {
+class ZAF_API MenuItem {
  public:
   MenuItem() = default;
   explicit MenuItem(const ZAFHartTypes::Definition& definition, bool readOnly = false);
@@ -44,7 +45,7 @@ class MenuItem {
 };
 
 // Items of a menu; positions count from 1.
-class MenuItems {
+class ZAF_API MenuItems {
  public:
   void Add(MenuItem item) { items_.push_back(std::move(item)); }
   // Raises SubscriptOutOfRange for a position outside 1..Count().
@@ -62,7 +63,7 @@ class MenuItems {
   std::vector<MenuItem> items_;
 };
 
-class Menu : public DDObject {
+class ZAF_API Menu : public DDObject {
  public:
   static constexpr ObjectKind kKind = ObjectKind::Menu;
   explicit Menu(const ZAFHartTypes::Definition& definition = {})

@@ -1,11 +1,12 @@
 #pragma once
 
 #include "ddobjects/DDObject.h"
+#include "platform/Export.h"
 #include "types/SharedText.h"
 
 namespace ZAFHartTypes {
 
-class Method : public DDObject {
+class ZAF_API Method : public DDObject {
  public:
   static constexpr ObjectKind kKind = ObjectKind::Method;
   explicit Method(const ZAFHartTypes::Definition& definition) : DDObject(definition) {}

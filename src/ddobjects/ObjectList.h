@@ -2,11 +2,12 @@
 
 #include "ddobjects/DDObject.h"
 #include "ddobjects/KeyedList.h"
+#include "platform/Export.h"
 
 namespace ZAFHartTypes {
 
 // Keyed list of objects, by the names of their definitions.
-class ObjectList {
+class ZAF_API ObjectList {
  public:
   // False, and no change, when an object of that name is listed already.
   bool Add(std::shared_ptr<DDObject> object);

@@ -4,11 +4,12 @@
 
 #include "ddobjects/DDObject.h"
 #include "ddobjects/DefinitionList.h"
+#include "platform/Export.h"
 
 namespace ZAFHartTypes {
 
 // When a trigger item changes, the refresh items are to be read again.
-class RefreshRelation : public DDObject {
+class ZAF_API RefreshRelation : public DDObject {
  public:
   static constexpr ObjectKind kKind = ObjectKind::RefreshRelation;
   explicit RefreshRelation(const Definition& definition) : DDObject(definition) {}
@@ -35,7 +36,7 @@ class RefreshRelation : public DDObject {
 };
 
 // The dependent items have the unit that the unit variable holds.
-class UnitRelation : public DDObject {
+class ZAF_API UnitRelation : public DDObject {
  public:
   static constexpr ObjectKind kKind = ObjectKind::UnitRelation;
   explicit UnitRelation(const Definition& definition) : DDObject(definition) {}
@@ -66,7 +67,7 @@ struct WriteAsOneItem {
 };
 
 // Variables that are edited and written together.
-class WriteAsOne : public DDObject {
+class ZAF_API WriteAsOne : public DDObject {
  public:
   static constexpr ObjectKind kKind = ObjectKind::WriteAsOne;
   explicit WriteAsOne(const ZAFHartTypes::Definition& definition) : DDObject(definition) {}

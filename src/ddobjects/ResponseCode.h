@@ -5,12 +5,13 @@
 #include <vector>
 
 #include "ddobjects/Codes.h"
+#include "platform/Export.h"
 #include "types/SharedText.h"
 
 namespace ZAFHartTypes {
 
 // A response code of a command or transaction with its texts (multilingual).
-class ResponseCode {
+class ZAF_API ResponseCode {
  public:
   ResponseCode(std::int16_t value, ResponseCodeType type, SharedText description,
                SharedText help = {})
@@ -28,7 +29,7 @@ class ResponseCode {
   std::int16_t value_;
 };
 
-class ResponseCodeList {
+class ZAF_API ResponseCodeList {
  public:
   ResponseCodeList() = default;
   ResponseCodeList(std::initializer_list<ResponseCode> codes) : codes_(codes) {}

@@ -5,10 +5,12 @@
 #include <string>
 #include <vector>
 
+#include "platform/Export.h"
+
 namespace ZAFHartTypes {
 
 // Devices that a DTM is made for.
-struct SupportedDevice {
+struct ZAF_API SupportedDevice {
   static constexpr std::uint8_t kAnyRevision = 255;  // as the highest: later ones too
 
   // As command 0 tells it (hart::DeviceIdentity): the expanded type, or before HART 7 manufacturer
@@ -24,7 +26,7 @@ struct SupportedDevice {
 
 // Offered by the kernel information of a DTM that is made for certain devices. Without it, or with
 // an empty list, every device will do.
-class ISupportedDevices {
+class ZAF_API ISupportedDevices {
  public:
   virtual ~ISupportedDevices() = default;
   virtual std::vector<SupportedDevice> SupportedDevices() const = 0;

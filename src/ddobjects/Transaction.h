@@ -7,12 +7,13 @@
 
 #include "ddobjects/DataItem.h"
 #include "ddobjects/ResponseCode.h"
+#include "platform/Export.h"
 
 namespace ZAFHartTypes {
 
 // One layout of a command's request and reply. In a reply, item 1 is the response code byte and
 // item 2 the field device status byte.
-class Transaction {
+class ZAF_API Transaction {
  public:
   explicit Transaction(std::int16_t number) : number_(number) {}
 
@@ -40,7 +41,7 @@ class Transaction {
 };
 
 // Transactions of one command. Copying copies the transactions.
-class TransactionList {
+class ZAF_API TransactionList {
  public:
   TransactionList() = default;
   TransactionList(const TransactionList& other);

@@ -6,6 +6,7 @@
 
 #include "ddobjects/Codes.h"
 #include "ddobjects/EnumList.h"
+#include "platform/Export.h"
 #include "types/Variant.h"
 
 namespace ZAFHartTypes {
@@ -13,7 +14,7 @@ namespace ZAFHartTypes {
 class ItemArray;
 
 // Type of a variable's value. Lists are shared between all variables of one type and immutable.
-class TypeInfo {
+class ZAF_API TypeInfo {
  public:
   ZAFHartTypes::TypeCode TypeCode() const { return typeCode_; }
   void SetTypeCode(ZAFHartTypes::TypeCode code) { typeCode_ = code; }

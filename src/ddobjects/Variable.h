@@ -6,6 +6,7 @@
 #include "ddobjects/DefinitionList.h"
 #include "ddobjects/TypeInfo.h"
 #include "ddobjects/VariableAttributes.h"
+#include "platform/Export.h"
 #include "types/SharedText.h"
 #include "types/Variant.h"
 
@@ -34,7 +35,7 @@ struct VariableBlock {
 // A snapshot remembers what was set on it. Writing it to the worker database carries just that, so
 // that what others wrote meanwhile stands. A Copy() or GetCopy() carries everything. The recursion
 // flags, the write dependencies and CurrentVariable never travel.
-class Variable : public DDObject {
+class ZAF_API Variable : public DDObject {
  public:
   static constexpr ObjectKind kKind = ObjectKind::Variable;
   using Time = std::chrono::system_clock::time_point;

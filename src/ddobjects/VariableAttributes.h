@@ -3,11 +3,12 @@
 #include <cstdint>
 
 #include "ddobjects/Codes.h"
+#include "platform/Export.h"
 
 namespace ZAFHartTypes {
 
 // Flags of a variable, addressed by index 0 to 31.
-class VariableAttributes {
+class ZAF_API VariableAttributes {
  public:
   bool Flag(VariableFlag index) const {
     return ((bits_ >> static_cast<unsigned>(index)) & 1U) != 0;

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "dtmkit/MethodBody.h"
+#include "platform/Export.h"
 
 namespace ZAFHartTypes::dtmkit {
 
@@ -19,7 +20,7 @@ using Computation = std::function<void(Context&, Item&)>;
 // All items of one device type, made once per process: a prototype of every object and the
 // functions that compute what depends on values. Each DTM instance gets copies of the prototypes,
 // which share texts, lists and attribute blocks with them.
-class Catalogue {
+class ZAF_API Catalogue {
  public:
   Catalogue() = default;
   Catalogue(const Catalogue&) = delete;

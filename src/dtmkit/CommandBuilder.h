@@ -5,6 +5,7 @@
 #include "dtmkit/CommandItem.h"
 #include "dtmkit/ElementItems.h"
 #include "dtmkit/ItemBuilder.h"
+#include "platform/Export.h"
 
 namespace ZAFHartTypes::dtmkit {
 
@@ -20,7 +21,7 @@ inline constexpr const char* kDeviceStatus = "device_status";
 
 // Writes a command. Request and Reply are those of transaction 0 until Transaction opens another;
 // every transaction's reply starts with the response code and the device status by itself.
-class CommandBuilder : public ItemBuilder<CommandBuilder, Command> {
+class ZAF_API CommandBuilder : public ItemBuilder<CommandBuilder, Command> {
  public:
   // `number` is the HART command number.
   CommandBuilder(Catalogue& catalogue, Command& command, std::int16_t number, Operation operation);

@@ -5,6 +5,7 @@
 
 #include "ddobjects/DataItem.h"
 #include "dtmkit/Names.h"
+#include "platform/Export.h"
 
 namespace ZAFHartTypes::dtmkit {
 
@@ -18,7 +19,7 @@ struct ElementPath {
 
 // An item of a request or reply as a data model writes it: "tag", Byte(254), Masked("limit", 0x30),
 // Index("slot"), Element("points", "point", "X").
-class CommandItem {
+class ZAF_API CommandItem {
  public:
   CommandItem(const char* variable)  // NOLINT(google-explicit-constructor)
       : CommandItem(DataItem::Reference(VariableNamed(variable))) {}
@@ -52,7 +53,7 @@ inline CommandItem Index(std::string_view variable) {
 }
 // The variable array[index], or array[index].member. Which one that is follows the value of the
 // variable `index`; a value that the array lacks leaves it as it was.
-CommandItem Element(std::string_view array, std::string_view index, std::string_view member = {},
-                    std::uint32_t mask = 0);
+ZAF_API CommandItem Element(std::string_view array, std::string_view index,
+                            std::string_view member = {}, std::uint32_t mask = 0);
 
 }  // namespace ZAFHartTypes::dtmkit

@@ -2,6 +2,7 @@
 
 #include "dtmkit/Names.h"
 #include "interfaces/IDDComponents.h"
+#include "platform/Export.h"
 
 namespace ZAFHartTypes::dtmkit {
 
@@ -9,7 +10,7 @@ namespace ZAFHartTypes::dtmkit {
 // call and holds nothing.
 //
 // Every look-up of an unknown name, or of an item of another kind, raises ObjectNotSet.
-class Context {
+class ZAF_API Context {
  public:
   Context(IDDKernel& kernel, IDDComponents& components)
       : kernel_(kernel), components_(components) {}

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "dtmkit/Catalogue.h"
+#include "platform/Export.h"
 
 namespace ZAFHartTypes::dtmkit {
 
@@ -14,7 +15,7 @@ namespace ZAFHartTypes::dtmkit {
 // where Description() returns the process's one description of the device type. Init… put copies of
 // the prototypes into the worker database; Compute… run the item's computations and return it, or
 // return it at once when there are none. What a computation raises reaches the kernel.
-class DataModelBase : public platform::Object, public IDDDataModel {
+class ZAF_API DataModelBase : public platform::Object, public IDDDataModel {
  public:
   // `catalogue` outlives the data model and does not change while it lives.
   explicit DataModelBase(const Catalogue& catalogue) : catalogue_(catalogue) {}

@@ -3,6 +3,7 @@
 #include "dtmkit/CommandBuilder.h"
 #include "dtmkit/ItemBuilders.h"
 #include "dtmkit/VariableBuilder.h"
+#include "platform/Export.h"
 
 namespace ZAFHartTypes::dtmkit {
 
@@ -21,7 +22,7 @@ namespace ZAFHartTypes::dtmkit {
 // Describe arrays and collections before the index variables and commands that name them. Each
 // raises DuplicateKey for a name that is taken. The description is complete, and does not change
 // any more, before the first data model is made from it (see DataModelBase).
-class DeviceDescription : public Catalogue {
+class ZAF_API DeviceDescription : public Catalogue {
  public:
   VariableBuilder Variable(std::string_view name) {
     return Make<VariableBuilder, ZAFHartTypes::Variable>(name);

@@ -4,11 +4,12 @@
 
 #include "dtmkit/Catalogue.h"
 #include "dtmkit/CommandItem.h"
+#include "platform/Export.h"
 
 namespace ZAFHartTypes::dtmkit {
 
 // The items of one command that name array elements, and what makes them follow their indexes.
-class ElementItems {
+class ZAF_API ElementItems {
  public:
   // Position counts from 1 in the transaction's reply or request.
   void Add(std::int16_t transaction, bool inReply, std::size_t position, ElementPath path);
@@ -28,6 +29,6 @@ class ElementItems {
 
 // The variable that `path` stands for before any index has a value: that of the first element.
 // Raises InvalidArgument when the array or the member is not described.
-Definition FirstElement(const Catalogue& catalogue, const ElementPath& path);
+ZAF_API Definition FirstElement(const Catalogue& catalogue, const ElementPath& path);
 
 }  // namespace ZAFHartTypes::dtmkit

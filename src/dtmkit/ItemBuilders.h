@@ -3,13 +3,14 @@
 #include <initializer_list>
 
 #include "dtmkit/ItemBuilder.h"
+#include "platform/Export.h"
 
 namespace ZAFHartTypes::dtmkit {
 
 using Names = std::initializer_list<std::string_view>;
 
 // Writes a menu; its entries stand in the order they are added.
-class MenuBuilder : public ItemBuilder<MenuBuilder, Menu> {
+class ZAF_API MenuBuilder : public ItemBuilder<MenuBuilder, Menu> {
  public:
   using ItemBuilder::ItemBuilder;
   // Variables with their values, to be edited or only shown.
@@ -23,7 +24,7 @@ class MenuBuilder : public ItemBuilder<MenuBuilder, Menu> {
   MenuBuilder& Add(ObjectKind kind, Names names, bool showValue, bool readOnly);
 };
 
-class EditDisplayBuilder : public ItemBuilder<EditDisplayBuilder, EditDisplay> {
+class ZAF_API EditDisplayBuilder : public ItemBuilder<EditDisplayBuilder, EditDisplay> {
  public:
   using ItemBuilder::ItemBuilder;
   EditDisplayBuilder& Display(Names variables);
@@ -33,7 +34,7 @@ class EditDisplayBuilder : public ItemBuilder<EditDisplayBuilder, EditDisplay> {
   EditDisplayBuilder& PostEdit(Names methods);
 };
 
-class MethodBuilder : public ItemBuilder<MethodBuilder, Method> {
+class ZAF_API MethodBuilder : public ItemBuilder<MethodBuilder, Method> {
  public:
   using ItemBuilder::ItemBuilder;
   MethodBuilder& Body(MethodBody body);
@@ -41,7 +42,7 @@ class MethodBuilder : public ItemBuilder<MethodBuilder, Method> {
 };
 
 // Elements are given with their index, the item, and a multilingual description.
-class ArrayBuilder : public ItemBuilder<ArrayBuilder, ItemArray> {
+class ZAF_API ArrayBuilder : public ItemBuilder<ArrayBuilder, ItemArray> {
  public:
   using ItemBuilder::ItemBuilder;
   ArrayBuilder& Variable(std::int32_t index, std::string_view name, SharedText description);
@@ -49,7 +50,7 @@ class ArrayBuilder : public ItemBuilder<ArrayBuilder, ItemArray> {
   ArrayBuilder& Array(std::int32_t index, std::string_view name, SharedText description);
 };
 
-class CollectionBuilder : public ItemBuilder<CollectionBuilder, ItemCollection> {
+class ZAF_API CollectionBuilder : public ItemBuilder<CollectionBuilder, ItemCollection> {
  public:
   using ItemBuilder::ItemBuilder;
   CollectionBuilder& Variable(std::string_view member, std::string_view name);
@@ -58,7 +59,7 @@ class CollectionBuilder : public ItemBuilder<CollectionBuilder, ItemCollection> 
   CollectionBuilder& Menu(std::string_view member, std::string_view name);
 };
 
-class RefreshRelationBuilder : public ItemBuilder<RefreshRelationBuilder, RefreshRelation> {
+class ZAF_API RefreshRelationBuilder : public ItemBuilder<RefreshRelationBuilder, RefreshRelation> {
  public:
   using ItemBuilder::ItemBuilder;
   // When one of the triggers changes, the refreshed variables are read again.
@@ -66,7 +67,7 @@ class RefreshRelationBuilder : public ItemBuilder<RefreshRelationBuilder, Refres
   RefreshRelationBuilder& Refreshes(Names variables);
 };
 
-class UnitRelationBuilder : public ItemBuilder<UnitRelationBuilder, UnitRelation> {
+class ZAF_API UnitRelationBuilder : public ItemBuilder<UnitRelationBuilder, UnitRelation> {
  public:
   using ItemBuilder::ItemBuilder;
   // The dependents have the unit that the variable `unit` holds.
@@ -74,7 +75,7 @@ class UnitRelationBuilder : public ItemBuilder<UnitRelationBuilder, UnitRelation
   UnitRelationBuilder& Dependents(Names variables);
 };
 
-class WriteAsOneBuilder : public ItemBuilder<WriteAsOneBuilder, WriteAsOne> {
+class ZAF_API WriteAsOneBuilder : public ItemBuilder<WriteAsOneBuilder, WriteAsOne> {
  public:
   using ItemBuilder::ItemBuilder;
   WriteAsOneBuilder& Members(Names variables);

@@ -6,14 +6,15 @@
 
 #include "ddobjects/IDDDataModel.h"
 #include "ddobjects/SupportedDevices.h"
+#include "platform/Export.h"
 
 namespace ZAFHartTypes::dtmkit {
 
 // A DTM's kernel information: a table of standard names, the place of its component file and the
 // devices that it is for.
-class KernelInformationBase : public platform::Object,
-                              public IKernelInformation,
-                              public ISupportedDevices {
+class ZAF_API KernelInformationBase : public platform::Object,
+                                      public IKernelInformation,
+                                      public ISupportedDevices {
  public:
   using StandardNames = std::initializer_list<std::pair<ZAFHartTypes::StandardName, std::string>>;
 

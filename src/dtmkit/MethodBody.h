@@ -6,6 +6,7 @@
 
 #include "dtmkit/Context.h"
 #include "interfaces/IDDBuiltinLib.h"
+#include "platform/Export.h"
 
 namespace ZAFHartTypes::dtmkit {
 
@@ -23,7 +24,7 @@ using MethodBody = std::function<void(IDDBuiltinLib& dd)>;
 
 // The further helpers of the same run: calculations, AddUnit. Raises TypeMismatch when the
 // library in use has none.
-IDDBuiltinLib2& Extended(IDDBuiltinLib& dd);
+ZAF_API IDDBuiltinLib2& Extended(IDDBuiltinLib& dd);
 
 // Runs the body of a method that was started from `object`, and ends the method however the body
 // leaves: an aborted one has its abort methods run, once each in the order they were added, a
@@ -32,8 +33,8 @@ IDDBuiltinLib2& Extended(IDDBuiltinLib& dd);
 //
 // A failure that leaves the body aborts the method. It is raised on, unless a builtin raised it
 // after telling the user why the method ends.
-void RunMethod(Context& context, const std::string& name, const MethodBody& body,
-               std::shared_ptr<DDObject> object, bool inAbort);
+ZAF_API void RunMethod(Context& context, const std::string& name, const MethodBody& body,
+                       std::shared_ptr<DDObject> object, bool inAbort);
 
 // Sees to it that an abort method runs whenever the body leaves before Done(): cancelled, by a
 // failure, or by the builtins' error path, which empties the list of abort methods.
@@ -41,7 +42,7 @@ void RunMethod(Context& context, const std::string& name, const MethodBody& body
 //   AbortGuard release(dd, "release_loop_current");
 //   …
 //   release.Done();   // released by the body itself
-class AbortGuard {
+class ZAF_API AbortGuard {
  public:
   // `dd` outlives the guard.
   AbortGuard(IDDBuiltinLib& dd, std::string method);

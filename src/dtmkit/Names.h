@@ -3,6 +3,7 @@
 #include <string_view>
 
 #include "ddobjects/Definition.h"
+#include "platform/Export.h"
 
 namespace ZAFHartTypes::dtmkit {
 
@@ -31,7 +32,7 @@ inline Definition CollectionNamed(std::string_view name) {
 
 // A variable's name where one is asked for: as text, or as a definition made beforehand, which
 // saves looking the text up.
-class VariableName {
+class ZAF_API VariableName {
  public:
   VariableName(const char* name) : definition_(VariableNamed(name)) {}       // NOLINT
   VariableName(std::string_view name) : definition_(VariableNamed(name)) {}  // NOLINT

@@ -3,6 +3,7 @@
 #include <initializer_list>
 
 #include "dtmkit/ItemBuilder.h"
+#include "platform/Export.h"
 
 namespace ZAFHartTypes::dtmkit {
 
@@ -19,7 +20,7 @@ inline Bits MakeBits(std::initializer_list<BitItem> items) {
 }
 
 // Writes a DD variable. Without further words it is readable and writable, valid, and static.
-class VariableBuilder : public ItemBuilder<VariableBuilder, Variable> {
+class ZAF_API VariableBuilder : public ItemBuilder<VariableBuilder, Variable> {
  public:
   using ItemBuilder::ItemBuilder;
 

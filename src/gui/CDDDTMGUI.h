@@ -14,6 +14,7 @@
 #include "interfaces/ComponentBase.h"
 #include "interfaces/IDDDTMGUI.h"
 #include "interfaces/IGuiCtrl.h"
+#include "platform/Export.h"
 #include "platform/Object.h"
 #include "trace/CExternalTraceConnection.h"
 #include "trace/StackInformation.h"
@@ -28,13 +29,13 @@ namespace ZAFHartLib {
 // replaced. Failures of controls are traced when the setting UseErrorHandler is on (from the first
 // component model on it is, unless the registry says no) and reach the caller otherwise. Held by
 // std::shared_ptr; all calls come from the thread that made it.
-class CDDDTMGUI : public platform::Object,
-                  public ZAFHartTypes::IDDDTMGUI,
-                  public ZAFHartTypes::IDDDTMGUIUpdateControl,
-                  public ZAFHartTypes::IDDPrint,
-                  public ZAFHartTypes::IGuiManager,
-                  public IStackInformationOwner,
-                  public std::enable_shared_from_this<CDDDTMGUI> {
+class ZAF_API CDDDTMGUI : public platform::Object,
+                          public ZAFHartTypes::IDDDTMGUI,
+                          public ZAFHartTypes::IDDDTMGUIUpdateControl,
+                          public ZAFHartTypes::IDDPrint,
+                          public ZAFHartTypes::IGuiManager,
+                          public IStackInformationOwner,
+                          public std::enable_shared_from_this<CDDDTMGUI> {
  public:
   using Control = std::shared_ptr<ZAFHartTypes::IDDDTMGUI>;
   using Object = std::shared_ptr<ZAFHartTypes::DDObject>;

@@ -6,12 +6,13 @@
 #include <string>
 
 #include "hart/Numbers.h"
+#include "platform/Export.h"
 
 // Who a device is, as it tells by command 0 (read unique identifier), 11 (by tag) or 21 (by long
 // tag); all three have one reply, by the HART universal commands.
 namespace ZAFHartTypes::hart {
 
-struct DeviceIdentity {
+struct ZAF_API DeviceIdentity {
   // HART 7: the expanded device type; before: manufacturer and device type, a byte each.
   std::uint16_t expandedType = 0;
   std::optional<std::uint16_t> toldManufacturer;  // of 16 bits; HART 7 devices tell it
@@ -36,6 +37,6 @@ struct DeviceIdentity {
 
 // Takes an identity out of a reply, status bytes included. Nothing for a reply that has none: too
 // short, damaged on the way, refused by the device, or of one from before HART 5.
-std::optional<DeviceIdentity> ReadIdentity(Bytes reply);
+ZAF_API std::optional<DeviceIdentity> ReadIdentity(Bytes reply);
 
 }  // namespace ZAFHartTypes::hart

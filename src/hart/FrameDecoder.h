@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "hart/LinkFrame.h"
+#include "platform/Export.h"
 
 namespace ZAFHartTypes::hart {
 
@@ -16,7 +17,7 @@ namespace ZAFHartTypes::hart {
 // frames once more, from the byte after its delimiter on, so that noise hides no frame behind it.
 // The same bytes and gaps give the same frames, in whatever pieces they come. The echo of one's own
 // request is a frame like any other. Keeps no more than one frame of the longest kind.
-class FrameDecoder {
+class ZAF_API FrameDecoder {
  public:
   // Takes bytes that were received well; returns the frames that end in them, and faults, in the
   // order in which they began on the line. A fault is a start that became no good frame; noise

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "hart/Numbers.h"
+#include "platform/Export.h"
 
 // Messages of HART-IP version 1, the same over UDP and TCP: a header of 8 bytes (version, type, id,
 // status, sequence number, byte count with the header included), and a body.
@@ -50,7 +51,7 @@ struct HartIpMessage {
 };
 
 // Raises InvalidArgument for a body that makes the message longer than kHartIpMaxSize.
-std::vector<std::uint8_t> EncodeHartIp(const HartIpMessage& message);
+ZAF_API std::vector<std::uint8_t> EncodeHartIp(const HartIpMessage& message);
 
 enum class HartIpFault : std::uint8_t {
   None,
@@ -60,7 +61,7 @@ enum class HartIpFault : std::uint8_t {
   Surplus,    // goes on after its byte count
 };
 // For messages: "the message is of another version"; "" for None.
-std::string_view FaultText(HartIpFault fault);
+ZAF_API std::string_view FaultText(HartIpFault fault);
 
 struct DecodedHartIp {
   HartIpFault fault = HartIpFault::None;
@@ -72,10 +73,10 @@ struct DecodedHartIp {
 };
 
 // Takes one datagram apart. EncodeHartIp gives the bytes of a good one again.
-DecodedHartIp DecodeHartIp(Bytes datagram);
+ZAF_API DecodedHartIp DecodeHartIp(Bytes datagram);
 
 // Puts the messages of a TCP connection together. Keeps no more than one of them.
-class HartIpStream {
+class ZAF_API HartIpStream {
  public:
   // The messages that end in these bytes. The first fault (version or byte count) is the last of
   // them: no message can be found behind it, and the connection is to be closed.
@@ -97,9 +98,9 @@ struct HartIpSession {
   friend bool operator==(const HartIpSession&, const HartIpSession&) = default;
 };
 // Raises Overflow for a time that 32 bits do not hold.
-std::vector<std::uint8_t> EncodeSession(const HartIpSession& session);
+ZAF_API std::vector<std::uint8_t> EncodeSession(const HartIpSession& session);
 // Nothing for a body of fewer than 5 bytes or a master that is neither primary (1) nor secondary
 // (0); further bytes are left alone.
-std::optional<HartIpSession> DecodeSession(Bytes body);
+ZAF_API std::optional<HartIpSession> DecodeSession(Bytes body);
 
 }  // namespace ZAFHartTypes::hart

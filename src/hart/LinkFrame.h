@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "hart/Numbers.h"
+#include "platform/Export.h"
 
 // Frames of the HART token-passing data link layer. From the delimiter to the check byte they are
 // the same on a modem's line, where preambles go ahead of them, and in HART-IP's messages.
@@ -22,7 +23,7 @@ enum class FrameType : std::uint8_t {
 };
 
 // Whom a request is for, or whom a reply is from; without the master and the burst bit.
-struct LinkAddress {
+struct ZAF_API LinkAddress {
   static constexpr std::uint8_t kMaxPolling = 63;  // 15 in HART 5
 
   bool isLong = false;
@@ -37,7 +38,7 @@ struct LinkAddress {
   friend bool operator==(const LinkAddress&, const LinkAddress&) = default;
 };
 
-struct LinkFrame {
+struct ZAF_API LinkFrame {
   FrameType type = FrameType::Request;
   LinkAddress address;
   bool primaryMaster = true;  // the master that asks or is answered; else the secondary one
@@ -68,23 +69,23 @@ inline constexpr int kMaxPreambles = 20;
 
 // A master's request; a number above 255 goes out as command 31. `data` is without the extended
 // number. Raises InvalidArgument for more data than fit.
-LinkFrame RequestFrame(std::uint16_t number, const LinkAddress& address, bool primaryMaster,
-                       Bytes data);
+ZAF_API LinkFrame RequestFrame(std::uint16_t number, const LinkAddress& address, bool primaryMaster,
+                               Bytes data);
 // A device's answer to `request`, with its address, master and command. `statusAndData` is without
 // the extended number. Raises InvalidArgument for more data than fit.
-LinkFrame ReplyFrame(const LinkFrame& request, Bytes statusAndData);
+ZAF_API LinkFrame ReplyFrame(const LinkFrame& request, Bytes statusAndData);
 // `frame` is the device's answer to `request`: of the same address, master and command. A reply to
 // command 31 without an extended number, from a device that does not know it, answers any of them.
-bool Answers(const LinkFrame& frame, const LinkFrame& request);
+ZAF_API bool Answers(const LinkFrame& frame, const LinkFrame& request);
 
 // The bytes from delimiter to check byte. Raises InvalidArgument for more than 255 data bytes, more
 // than 3 expansion bytes or an address that is none.
-std::vector<std::uint8_t> EncodeFrame(const LinkFrame& frame);
+ZAF_API std::vector<std::uint8_t> EncodeFrame(const LinkFrame& frame);
 // What a modem sends: `preambles` (2 to 20, else InvalidArgument is raised) and the frame.
-std::vector<std::uint8_t> WithPreambles(Bytes frame, int preambles);
+ZAF_API std::vector<std::uint8_t> WithPreambles(Bytes frame, int preambles);
 
 // Exclusive or of all bytes: the check byte of what stands before it.
-std::uint8_t CheckByte(Bytes bytes);
+ZAF_API std::uint8_t CheckByte(Bytes bytes);
 
 enum class FrameFault : std::uint8_t {
   None,
@@ -96,7 +97,7 @@ enum class FrameFault : std::uint8_t {
   ReceiveError,  // a byte was received with wrong parity or framing
 };
 // For messages: "the check byte is wrong"; "" for None.
-std::string_view FaultText(FrameFault fault);
+ZAF_API std::string_view FaultText(FrameFault fault);
 
 struct DecodedFrame {
   FrameFault fault = FrameFault::None;
@@ -109,17 +110,17 @@ struct DecodedFrame {
 
 // Takes one whole frame apart; preambles ahead of it are allowed. EncodeFrame gives the bytes of a
 // good one again.
-DecodedFrame DecodeFrame(Bytes bytes);
+ZAF_API DecodedFrame DecodeFrame(Bytes bytes);
 
 // For receivers that meet a frame byte by byte.
-bool IsDelimiter(std::uint8_t byte);
+ZAF_API bool IsDelimiter(std::uint8_t byte);
 // Bytes from delimiter to byte count.
-std::size_t HeaderSize(std::uint8_t delimiter);
+ZAF_API std::size_t HeaderSize(std::uint8_t delimiter);
 // Bytes of the whole frame; nothing while its header is not whole. REQUIRES: `start` begins with a
 // delimiter.
-std::optional<std::size_t> FrameSize(Bytes start);
+ZAF_API std::optional<std::size_t> FrameSize(Bytes start);
 // Takes apart what has come of a frame. REQUIRES: `start` begins with a delimiter and is no longer
 // than the frame.
-DecodedFrame DecodeStart(Bytes start);
+ZAF_API DecodedFrame DecodeStart(Bytes start);
 
 }  // namespace ZAFHartTypes::hart

@@ -3,13 +3,14 @@
 #include <memory>
 
 #include "interfaces/IDDComponents.h"
+#include "platform/Export.h"
 #include "types/Failure.h"
 
 namespace ZAFHartTypes {
 
 // The back-reference that every component keeps to its component model. Fetch siblings through
 // Model() after every wait: it raises ObjectNotSet once the instance has been torn down.
-class ModelReference {
+class ZAF_API ModelReference {
  public:
   void Set(const std::shared_ptr<IDDComponents>& components) { components_ = components; }
   std::shared_ptr<IDDComponents> Get() const { return components_.lock(); }

@@ -3,11 +3,12 @@
 #include <memory>
 
 #include "ddobjects/Command.h"
+#include "platform/Export.h"
 
 namespace ZAFHartTypes {
 
 // Offered by kernels that read a variable in the background and tell which exchange does it.
-class IAsyncReader {
+class ZAF_API IAsyncReader {
  public:
   virtual ~IAsyncReader() = default;
   // Starts the read and returns. The result is the reference whose end a life signal

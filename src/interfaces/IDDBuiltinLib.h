@@ -10,6 +10,7 @@
 #include "ddobjects/DDObject.h"
 #include "ddobjects/DefinitionList.h"
 #include "interfaces/Codes.h"
+#include "platform/Export.h"
 #include "types/PromptValues.h"
 #include "types/Variant.h"
 
@@ -28,7 +29,7 @@ using VariableIds = std::vector<std::int32_t>;
 // The code leaves off as soon as IsAbort() holds after a builtin, and runs AbortMethodsList().
 // Texts are multilingual and shown in the user's language. Results of commands: see CommResult.
 // A failure of a component is raised, unless said otherwise.
-class IDDBuiltinLib {
+class ZAF_API IDDBuiltinLib {
  public:
   virtual ~IDDBuiltinLib() = default;
   virtual void SetComponentModel(const std::shared_ptr<IDDComponents>& components) = 0;
@@ -181,7 +182,7 @@ class IDDBuiltinLib {
 };
 
 // Calculations and helpers beyond the DD builtins, by number.
-class IDDBuiltinLib2 {
+class ZAF_API IDDBuiltinLib2 {
  public:
   virtual ~IDDBuiltinLib2() = default;
   // 1000 to 1021 mathematics, 4001 runs a method by name, 4002 uploads a single-storage variable.

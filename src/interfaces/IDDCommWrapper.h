@@ -9,13 +9,14 @@
 #include "ddobjects/Command.h"
 #include "interfaces/Codes.h"
 #include "interfaces/ILink.h"
+#include "platform/Export.h"
 
 namespace ZAFHartTypes {
 
 class IDDComponents;
 
 // What the kernel hands every command to.
-class IDDCommWrapper {
+class ZAF_API IDDCommWrapper {
  public:
   virtual ~IDDCommWrapper() = default;
   virtual void SetComponentModel(const std::shared_ptr<IDDComponents>& components) = 0;
@@ -43,7 +44,7 @@ class IDDCommWrapper {
 };
 
 // Offered by wrappers whose exchanges go through a link that the host chooses.
-class ILinkUser {
+class ZAF_API ILinkUser {
  public:
   virtual ~ILinkUser() = default;
   // Class name from which a link is created when none is given; at first "HartLinkSim.EchoLink",
@@ -58,7 +59,7 @@ class ILinkUser {
 };
 
 // Is told of every exchange of a wrapper. Must not throw.
-class IExchangeObserver {
+class ZAF_API IExchangeObserver {
  public:
   virtual ~IExchangeObserver() = default;
   // The exchange goes to the link, with its request.
@@ -69,7 +70,7 @@ class IExchangeObserver {
 };
 
 // Offered by wrappers that let one observer see their exchanges.
-class IObservedExchanges {
+class ZAF_API IObservedExchanges {
  public:
   virtual ~IObservedExchanges() = default;
   // Not owned; takes the place of an earlier one.

@@ -9,12 +9,13 @@
 #include "interfaces/IDDDTMGUI.h"
 #include "interfaces/IDDKernel.h"
 #include "interfaces/IDDWorkerDB.h"
+#include "platform/Export.h"
 
 namespace ZAFHartTypes {
 
 // The components of one DTM instance. Getters return nothing after tear-down; hold the result
 // through the call.
-class IDDComponents {
+class ZAF_API IDDComponents {
  public:
   virtual ~IDDComponents() = default;
   virtual std::shared_ptr<IDDKernel> DDKernel() const = 0;
@@ -34,7 +35,7 @@ class IDDComponents {
 };
 
 // Offered by a host object that hands out its component model.
-class IComponentProvider {
+class ZAF_API IComponentProvider {
  public:
   virtual ~IComponentProvider() = default;
   virtual std::shared_ptr<IDDComponents> ComponentsObject() = 0;

@@ -10,6 +10,7 @@
 #include "interfaces/Codes.h"
 #include "interfaces/IDDDebugTracer.h"
 #include "interfaces/IDDErrorHandler.h"
+#include "platform/Export.h"
 
 namespace ZAFHartTypes {
 
@@ -29,7 +30,7 @@ struct UserMessage {
 };
 
 // The GUI manager of a DTM instance, and at the same time every control that registers with it.
-class IDDDTMGUI {
+class ZAF_API IDDDTMGUI {
  public:
   virtual ~IDDDTMGUI() = default;
 
@@ -63,7 +64,7 @@ class IDDDTMGUI {
 };
 
 // Whether single objects are shown while much changes at once.
-class IDDDTMGUIUpdateControl {
+class ZAF_API IDDDTMGUIUpdateControl {
  public:
   virtual ~IDDDTMGUIUpdateControl() = default;
   virtual bool LockUpdate() const = 0;
@@ -71,7 +72,7 @@ class IDDDTMGUIUpdateControl {
   virtual void RefreshView() = 0;
 };
 
-class IDDPrint {
+class ZAF_API IDDPrint {
  public:
   virtual ~IDDPrint() = default;
   // True when the control prints that function's document.

@@ -4,11 +4,13 @@
 #include <string>
 #include <vector>
 
+#include "platform/Export.h"
+
 namespace ZAFHartTypes {
 
 // A running operation that tells its trace lines when somebody wants them: its name line first,
 // then its inputs.
-class ITracedOperation {
+class ZAF_API ITracedOperation {
  public:
   virtual ~ITracedOperation() = default;
   virtual std::vector<std::string> TraceLines(std::int32_t infoLevel) const = 0;
@@ -16,7 +18,7 @@ class ITracedOperation {
 
 // The trace object of one running operation, handed out by IDDDTMGUI::TraceObject. It opens one
 // level of the trace stack at most. Results carry no information (0).
-class IDDDebugTracer {
+class ZAF_API IDDDebugTracer {
  public:
   virtual ~IDDDebugTracer() = default;
   // Detail level to pass to Describe.

@@ -7,12 +7,13 @@
 #include "ddobjects/ByteBuffer.h"
 #include "ddobjects/Command.h"
 #include "interfaces/Codes.h"
+#include "platform/Export.h"
 
 namespace ZAFHartTypes {
 
 // Asked first about every error. An answer with bit 0 set means that the error is handled; a
 // failure counts as not handled.
-class IDDErrorHandler {
+class ZAF_API IDDErrorHandler {
  public:
   virtual ~IDDErrorHandler() = default;
   virtual std::int32_t ObjectError(const std::shared_ptr<DDObject>& object, ItemIndex index) = 0;

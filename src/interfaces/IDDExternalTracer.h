@@ -5,13 +5,14 @@
 #include <string>
 
 #include "ddobjects/ObjectList.h"
+#include "platform/Export.h"
 
 namespace ZAFHartTypes {
 
 class IDDWorkerDB;
 
 // What an external tracer may ask of the library.
-class IDDExternalTracerCallBack {
+class ZAF_API IDDExternalTracerCallBack {
  public:
   virtual ~IDDExternalTracerCallBack() = default;
   // Highest level passed on by TraceText; 1 at the start.
@@ -31,7 +32,7 @@ class IDDExternalTracerCallBack {
 
 // A tracer component named in the registry. Break calls may block the thread until the user goes
 // on; their failures are ignored. Tracing never makes an operation fail.
-class IDDExternalTracer {
+class ZAF_API IDDExternalTracer {
  public:
   virtual ~IDDExternalTracer() = default;
   virtual void AddStack(std::int32_t stackLevel, const std::string& text) = 0;

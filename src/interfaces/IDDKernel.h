@@ -5,6 +5,7 @@
 #include <string>
 
 #include "ddobjects/IDDDataModel.h"
+#include "platform/Export.h"
 #include "types/Variant.h"
 
 namespace ZAFHartTypes {
@@ -15,7 +16,7 @@ class IDDComponents;
 // message loop while it waits for the device, and fails with ObjectNotSet when the DTM instance was
 // torn down meanwhile. Device and DD errors are recorded on the variables and reported to the GUI
 // manager, not raised.
-class IDDKernel {
+class ZAF_API IDDKernel {
  public:
   virtual ~IDDKernel() = default;
   virtual void SetComponentModel(const std::shared_ptr<IDDComponents>& components) = 0;
@@ -93,7 +94,7 @@ class IDDKernel {
 };
 
 // Menus whose values come from the background refresh instead of a read.
-class IDDKernel2 {
+class ZAF_API IDDKernel2 {
  public:
   virtual ~IDDKernel2() = default;
   virtual std::shared_ptr<Menu> AsyncStartMenu(const Definition& definition) = 0;

@@ -9,6 +9,7 @@
 #include "ddobjects/DDObject.h"
 #include "ddobjects/DataItem.h"
 #include "ddobjects/Variable.h"
+#include "platform/Export.h"
 #include "types/Variant.h"
 
 namespace ZAFHartTypes {
@@ -22,7 +23,7 @@ using ValueList = std::vector<Variant>;
 //
 // In every Set… an empty definition means all objects of the kind concerned; an unknown name or an
 // object of another kind is ignored. Every Is… answers false for them.
-class IDDWorkerDB {
+class ZAF_API IDDWorkerDB {
  public:
   virtual ~IDDWorkerDB() = default;
   virtual void SetComponentModel(const std::shared_ptr<IDDComponents>& components) = 0;
@@ -78,7 +79,7 @@ class IDDWorkerDB {
 };
 
 // State of the data set as a whole.
-class IDataBaseExtension {
+class ZAF_API IDataBaseExtension {
  public:
   virtual ~IDataBaseExtension() = default;
   // A value changed since SetIsDirty(false); setting it to true has no effect.

@@ -5,6 +5,7 @@
 
 #include "hart/DeviceIdentity.h"
 #include "interfaces/Codes.h"
+#include "platform/Export.h"
 
 namespace ZAFHartTypes {
 
@@ -19,7 +20,7 @@ enum class Addressing : std::uint8_t {
 
 // Offered by wrappers that connect to a device before they talk to it. A first command connects by
 // itself; so does one after a command without reply. After Disconnect it takes Connect.
-class IDeviceConnection {
+class ZAF_API IDeviceConnection {
  public:
   virtual ~IDeviceConnection() = default;
   // Looks for the device and checks that it is what the DTM is for; the message loop runs

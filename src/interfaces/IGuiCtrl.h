@@ -5,6 +5,7 @@
 #include <string>
 
 #include "ddobjects/DefinitionList.h"
+#include "platform/Export.h"
 #include "types/Variant.h"
 
 namespace ZAFHartTypes {
@@ -25,7 +26,7 @@ enum enumGuiActions : std::int32_t {
 enum enumBottomBarStyle : std::int32_t { bbsNone = 0, bbsSmall = 1, bbsBig = 2 };
 
 // A control that shows a part of a DTM. Implemented by the DTM's controls.
-class IGuiCtrl {
+class ZAF_API IGuiCtrl {
  public:
   virtual ~IGuiCtrl() = default;
   virtual void SetStartMenu(const Variant& menu) = 0;
@@ -45,14 +46,14 @@ class IGuiCtrl {
   virtual void SetSynchronousMode(bool synchronous) = 0;
 };
 
-class IGuiCtrl2 {
+class ZAF_API IGuiCtrl2 {
  public:
   virtual ~IGuiCtrl2() = default;
   virtual void CollectObservedData(DefinitionList& obsData) = 0;
 };
 
 // A window that holds controls.
-class IGuiContainer {
+class ZAF_API IGuiContainer {
  public:
   virtual ~IGuiContainer() = default;
   virtual bool SyncProcessLock() const = 0;
@@ -70,7 +71,7 @@ class IGuiContainer {
 };
 
 // A container that may live in another thread or process.
-class IGuiCont2 {
+class ZAF_API IGuiCont2 {
  public:
   virtual ~IGuiCont2() = default;
   virtual std::uint64_t ThreadID() const = 0;
@@ -81,7 +82,7 @@ class IGuiCont2 {
 };
 
 // Implemented by the GUI manager.
-class IGuiManager {
+class ZAF_API IGuiManager {
  public:
   virtual ~IGuiManager() = default;
   // What the controls observe has changed.

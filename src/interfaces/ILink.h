@@ -9,6 +9,7 @@
 #include "ddobjects/DataItem.h"
 #include "ddobjects/KeyedList.h"
 #include "interfaces/Codes.h"
+#include "platform/Export.h"
 
 namespace ZAFHartTypes {
 
@@ -31,7 +32,7 @@ enum class ResponseType : std::int32_t { Bytes = 0, NamedValues = 1 };
 class Exchange;
 
 // Receives the end of an exchange.
-class ICommCallback {
+class ZAF_API ICommCallback {
  public:
   virtual ~ICommCallback() = default;
   virtual void CommCallback_Finisched(const std::shared_ptr<Exchange>& exchange) = 0;
@@ -39,7 +40,7 @@ class ICommCallback {
 
 // One request to a device and its reply. The wrapper fills in the address and the request, a link
 // fills in the reply and finishes it. Data are texts of hexadecimal digits, two per byte ("0040").
-class Exchange : public std::enable_shared_from_this<Exchange> {
+class ZAF_API Exchange : public std::enable_shared_from_this<Exchange> {
  public:
   std::int16_t CommandNumber() const { return commandNumber_; }
   void SetCommandNumber(std::int16_t number) { commandNumber_ = number; }
@@ -103,7 +104,7 @@ class Exchange : public std::enable_shared_from_this<Exchange> {
 };
 
 // The way to a device. Links are created by class name.
-class ILink {
+class ZAF_API ILink {
  public:
   virtual ~ILink() = default;
   // Starts the exchange and returns; its state changes arrive through the message loop. A link that
@@ -114,7 +115,7 @@ class ILink {
 };
 
 // Offered by links that can tell why an exchange had no reply.
-class ILinkStatus {
+class ZAF_API ILinkStatus {
  public:
   virtual ~ILinkStatus() = default;
   // What kept the last exchange from an answer ("cannot open /dev/ttyUSB0: …"), for users; "" when
@@ -124,7 +125,7 @@ class ILinkStatus {
 
 // Offered by links that ask a busy device again (response codes 32 to 36) instead of handing the
 // first such reply over.
-class IBusyRetrying {
+class ZAF_API IBusyRetrying {
  public:
   virtual ~IBusyRetrying() = default;
   // Off unless the host has switched it on.

@@ -4,12 +4,13 @@
 #include <string>
 
 #include "hart/Numbers.h"
+#include "platform/Export.h"
 
 namespace HartLinks {
 
 // A way for single bytes: a serial port, or what stands in for one. Everything it tells comes from
 // the message loop, never out of a call.
-class ByteChannel {
+class ZAF_API ByteChannel {
  public:
   class Listener {
    public:

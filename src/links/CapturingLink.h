@@ -9,6 +9,7 @@
 #include "hart/LinkFrame.h"
 #include "interfaces/ILink.h"
 #include "links/PacketObserver.h"
+#include "platform/Export.h"
 #include "platform/Object.h"
 
 namespace HartLinks {
@@ -17,12 +18,12 @@ namespace HartLinks {
 // device of each link had a server of its own (192.0.2.2, port 5094): so the traffic of a modem or
 // of an emulated device can be read like any other. An exchange without a reply leaves its request.
 // A HART-IP link needs none: HartIpOptions::observer sees what it really sends.
-class CapturingLink : public platform::Object,
-                      public ZAFHartTypes::ILink,
-                      public ZAFHartTypes::ILinkStatus,
-                      public ZAFHartTypes::IBusyRetrying,
-                      public ZAFHartTypes::ICommCallback,
-                      public std::enable_shared_from_this<CapturingLink> {
+class ZAF_API CapturingLink : public platform::Object,
+                              public ZAFHartTypes::ILink,
+                              public ZAFHartTypes::ILinkStatus,
+                              public ZAFHartTypes::IBusyRetrying,
+                              public ZAFHartTypes::ICommCallback,
+                              public std::enable_shared_from_this<CapturingLink> {
  public:
   static std::shared_ptr<CapturingLink> Create(std::shared_ptr<ZAFHartTypes::ILink> link,
                                                std::shared_ptr<IPacketObserver> observer);

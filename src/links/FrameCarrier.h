@@ -6,6 +6,7 @@
 #include <string>
 
 #include "hart/LinkFrame.h"
+#include "platform/Export.h"
 #include "platform/MessageLoop.h"
 
 namespace HartLinks {
@@ -20,7 +21,7 @@ struct FrameEnd {
 
 // One request on its way over a carrier. Whoever asks keeps it; destroying it takes its handler
 // back.
-class FrameRequest {
+class ZAF_API FrameRequest {
  public:
   using Done = std::function<void(const FrameEnd&)>;
 
@@ -45,7 +46,7 @@ class FrameRequest {
 
 // Brings requests to devices and their replies back: a modem's line, a HART-IP session. Shared by
 // the links of a thread; everything happens in the thread's message loop and nothing blocks it.
-class FrameCarrier {
+class ZAF_API FrameCarrier {
  public:
   virtual ~FrameCarrier() = default;
   // The master bit that requests must have.

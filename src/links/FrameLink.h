@@ -7,6 +7,7 @@
 #include "interfaces/ILink.h"
 #include "links/BusyPolicy.h"
 #include "links/FrameCarrier.h"
+#include "platform/Export.h"
 #include "platform/Object.h"
 
 namespace HartLinks {
@@ -15,10 +16,10 @@ namespace HartLinks {
 // busy device again when its policy says so. The request goes to the exchange's long address (five
 // bytes: the unique address; one byte: a polling address) or, without one, to its polling address.
 // A link that goes away ends its exchanges as Cancelled.
-class FrameLink : public platform::Object,
-                  public ZAFHartTypes::ILink,
-                  public ZAFHartTypes::ILinkStatus,
-                  public ZAFHartTypes::IBusyRetrying {
+class ZAF_API FrameLink : public platform::Object,
+                          public ZAFHartTypes::ILink,
+                          public ZAFHartTypes::ILinkStatus,
+                          public ZAFHartTypes::IBusyRetrying {
  public:
   // Raises InvalidArgument for an address that is none.
   static ZAFHartTypes::hart::LinkAddress AddressOf(const ZAFHartTypes::Exchange& exchange);

@@ -5,12 +5,13 @@
 #include "links/FrameLink.h"
 #include "links/HartIpOptions.h"
 #include "links/HartIpSession.h"
+#include "platform/Export.h"
 
 namespace HartLinks {
 
 // "HartIp.Link": the link to a device that a HART-IP server is or has behind it. Links of one
 // thread to the same server share its session, and take turns on it.
-class HartIpLink : public FrameLink {
+class ZAF_API HartIpLink : public FrameLink {
  public:
   // From the settings (kHartIpSettingsKey); raises InvalidArgument naming the one that is missing
   // or wrong. Nothing is sent before the first exchange.

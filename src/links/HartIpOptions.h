@@ -6,6 +6,7 @@
 #include "links/BusyPolicy.h"
 #include "links/IpChannel.h"
 #include "platform/Clock.h"
+#include "platform/Export.h"
 
 namespace HartLinks {
 
@@ -20,7 +21,7 @@ inline constexpr std::string_view kHartIpSettingsKey =
 
 // How a HART-IP server is reached. Links of one thread with the same server and master share a
 // session; all but `busy` are those of the link that came first.
-struct HartIpOptions {
+struct ZAF_API HartIpOptions {
   HartIpServerName server;
   bool primaryMaster = true;
   // A gateway may have a device asked several times over 1200 baud before it answers.

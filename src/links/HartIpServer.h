@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "links/ServerConnection.h"
+#include "platform/Export.h"
 #include "platform/Sockets.h"
 
 namespace HartLinks {
@@ -20,7 +21,7 @@ struct HartIpServerOptions {
 
 // A HART-IP server in the message loop of its thread, from construction to destruction. What a
 // client does ends its own session or connection and nothing else.
-class HartIpServer {
+class ZAF_API HartIpServer {
  public:
   // Raises DeviceIo when the port cannot be had.
   HartIpServer(FrameAnswerer answerer, const HartIpServerOptions& options);

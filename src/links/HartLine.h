@@ -12,6 +12,7 @@
 #include "links/ModemOptions.h"
 #include "links/PreambleCounts.h"
 #include "links/RequestQueue.h"
+#include "platform/Export.h"
 
 namespace HartLinks {
 
@@ -19,7 +20,7 @@ namespace HartLinks {
 // its right to send, sends, waits for the reply, and tries again when none comes, when it is
 // damaged, or when the device reports that it received the request with an error. The channel is
 // opened at the first request and, after it broke, again at the next.
-class HartLine : public FrameCarrier, private ByteChannel::Listener {
+class ZAF_API HartLine : public FrameCarrier, private ByteChannel::Listener {
  public:
   using BurstObserver = std::function<void(const ZAFHartTypes::hart::LinkFrame&)>;
 

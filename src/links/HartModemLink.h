@@ -4,12 +4,13 @@
 
 #include "links/FrameLink.h"
 #include "links/HartLine.h"
+#include "platform/Export.h"
 
 namespace HartLinks {
 
 // "HartModem.Link": the link to a device behind a HART modem on a serial port or a pseudo terminal.
 // Links of one thread to the same port share its line, and take turns on it.
-class HartModemLink : public FrameLink {
+class ZAF_API HartModemLink : public FrameLink {
  public:
   // From the settings (kModemSettingsKey); raises InvalidArgument naming the one that is missing or
   // wrong. The port is opened by the first exchange.

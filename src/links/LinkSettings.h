@@ -9,12 +9,13 @@
 
 #include "links/BusyPolicy.h"
 #include "platform/AsciiText.h"
+#include "platform/Export.h"
 
 namespace HartLinks {
 
 // The settings of one link, by name. Raises InvalidArgument naming where they stand, the value and
 // what would be right.
-class LinkSettings {
+class ZAF_API LinkSettings {
  public:
   // The value of that name; nothing when it is not set.
   using Source = std::function<std::optional<std::string>(std::string_view name)>;

@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "links/BusyPolicy.h"
+#include "platform/Export.h"
 
 namespace HartLinks {
 
@@ -24,7 +25,7 @@ enum class RequestToSend : std::uint8_t {
 };
 
 // How a modem is reached. HART's own line is 1200 baud with odd parity.
-struct ModemOptions {
+struct ZAF_API ModemOptions {
   std::string port;  // "/dev/ttyUSB0"; a pseudo terminal will do
   int baud = 1200;
   Parity parity = Parity::Odd;
@@ -49,9 +50,9 @@ struct ModemOptions {
 };
 
 // The port is one, or a link to one.
-bool IsPseudoTerminal(const std::string& port);
+ZAF_API bool IsPseudoTerminal(const std::string& port);
 
 // The time of a character that holds for these options.
-std::chrono::microseconds CharacterTimeOf(const ModemOptions& options);
+ZAF_API std::chrono::microseconds CharacterTimeOf(const ModemOptions& options);
 
 }  // namespace HartLinks

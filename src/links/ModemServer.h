@@ -6,6 +6,7 @@
 #include "hart/FrameDecoder.h"
 #include "links/ByteChannel.h"
 #include "links/HartIpService.h"
+#include "platform/Export.h"
 #include "platform/MessageLoop.h"
 
 namespace HartLinks {
@@ -21,7 +22,7 @@ struct ModemServerOptions {
 // The devices' side of a line: finds requests in what comes, and answers those that are for a
 // device. What others say on the line is passed over, and so is the echo of a reply; a request that
 // comes before the answer to the last one has begun takes its place.
-class ModemServer : private ByteChannel::Listener {
+class ZAF_API ModemServer : private ByteChannel::Listener {
  public:
   // The channel is open and outlives the server.
   ModemServer(ByteChannel& channel, FrameAnswerer answerer, ModemServerOptions options = {});

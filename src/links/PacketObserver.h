@@ -3,6 +3,7 @@
 #include <cstdint>
 
 #include "hart/Numbers.h"
+#include "platform/Export.h"
 #include "platform/SocketAddress.h"
 
 namespace HartLinks {
@@ -21,7 +22,7 @@ struct Flow {
 enum class Direction : std::uint8_t { Sent, Received };
 
 // Is told what really goes over a socket. Must not throw.
-class IPacketObserver {
+class ZAF_API IPacketObserver {
  public:
   virtual ~IPacketObserver() = default;
   // A TCP connection is made (`sent`: by this end, else by the peer), and gone.

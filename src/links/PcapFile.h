@@ -7,13 +7,14 @@
 
 #include "links/IpPacket.h"
 #include "links/PacketObserver.h"
+#include "platform/Export.h"
 
 namespace HartLinks {
 
 // Records packets for network analysers: a classic pcap file of IP packets. Each packet is in the
 // file as soon as it has been observed, so that the file can be read at any moment. TCP bytes get
 // segments whose numbers fit together; how the system really cut them is not known here.
-class PcapFile : public IPacketObserver {
+class ZAF_API PcapFile : public IPacketObserver {
  public:
   // Replaces the file. Raises PathFileAccess when it cannot be written.
   explicit PcapFile(std::filesystem::path file);

@@ -3,6 +3,7 @@
 #include <vector>
 
 #include "links/ByteChannel.h"
+#include "platform/Export.h"
 #include "platform/MessageLoop.h"
 #include "platform/PseudoTerminal.h"
 
@@ -11,7 +12,7 @@ namespace HartLinks {
 // The far end of a line that another program opens as a serial port. It is open as long as it
 // lives, whether or not somebody has the other end; what is sent to nobody is lost. It has no
 // speed: bytes have left at once.
-class PtyChannel : public ByteChannel {
+class ZAF_API PtyChannel : public ByteChannel {
  public:
   // Raises DeviceIo when no pseudo terminal can be had.
   PtyChannel();

@@ -6,6 +6,7 @@
 
 #include "ddobjects/Transaction.h"
 #include "hart/Numbers.h"
+#include "platform/Export.h"
 
 namespace HartLinkSim {
 
@@ -19,7 +20,7 @@ struct FoundCommand {
 };
 
 // The commands that an emulated device has: those of a DTM, which the host supplies.
-class CommandCatalogue {
+class ZAF_API CommandCatalogue {
  public:
   virtual ~CommandCatalogue() = default;
   // `request`: the data bytes of a request to command `number`. Raises a Failure naming what cannot
@@ -34,7 +35,7 @@ class CommandCatalogue {
 // and they are long enough for it. Of several the one with the longest request, then with the
 // longest reply. When all want more bytes, the one that wants fewest; nothing when the constants
 // tell that it is none. REQUIRES: items are bound.
-std::shared_ptr<ZAFHartTypes::Transaction> ChooseTransaction(
+ZAF_API std::shared_ptr<ZAFHartTypes::Transaction> ChooseTransaction(
     const ZAFHartTypes::TransactionList& transactions, ZAFHartTypes::hart::Bytes request);
 
 }  // namespace HartLinkSim

@@ -6,6 +6,8 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/Export.h"
+
 namespace HartLinkSim {
 
 // The text file that an emulated device keeps its memory in.
@@ -21,7 +23,7 @@ namespace HartLinkSim {
 //
 // A text that begins or ends with a blank, begins with a quote or holds control characters stands
 // in quotes, with \\, \", \n, \r, \t and \xNN in it. Names compare without regard to letter case.
-class DeviceFile {
+class ZAF_API DeviceFile {
  public:
   static constexpr std::string_view kDeviceSection = "device";
   static constexpr std::string_view kStatusSection = "status";

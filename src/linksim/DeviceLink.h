@@ -4,11 +4,12 @@
 
 #include "linksim/EmulatedDevice.h"
 #include "linksim/SimulatedLink.h"
+#include "platform/Export.h"
 
 namespace HartLinkSim {
 
 // A link to an emulated device. Registered as "HartLinkSim.DeviceLink".
-class DeviceLink : public SimulatedLink {
+class ZAF_API DeviceLink : public SimulatedLink {
  public:
   // To the device of the calling thread's platform.
   DeviceLink() : DeviceLink(EmulatedDevice::OfThread()) {}

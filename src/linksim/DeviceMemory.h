@@ -8,13 +8,14 @@
 #include "ddobjects/DataItem.h"
 #include "ddobjects/KeyedList.h"
 #include "ddobjects/TypeInfo.h"
+#include "platform/Export.h"
 #include "types/Variant.h"
 
 namespace HartLinkSim {
 
 // The values of an emulated device by variable name. A value that came as text from a file gets its
 // type from the first command that names the variable.
-class DeviceMemory {
+class ZAF_API DeviceMemory {
  public:
   using Value = ZAFHartTypes::Variant;
 

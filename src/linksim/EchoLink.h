@@ -1,6 +1,7 @@
 #pragma once
 
 #include "linksim/SimulatedLink.h"
+#include "platform/Export.h"
 
 namespace HartLinkSim {
 
@@ -9,7 +10,7 @@ namespace HartLinkSim {
 //
 // The template's status bytes repeat those of the reply before; where they stand for variables, the
 // echo says "no error" instead, so that a fault does not last.
-class EchoLink : public SimulatedLink {
+class ZAF_API EchoLink : public SimulatedLink {
  public:
   EchoLink() = default;
 

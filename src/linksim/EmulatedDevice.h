@@ -12,6 +12,7 @@
 #include "linksim/DeviceFile.h"
 #include "linksim/DeviceMemory.h"
 #include "linksim/Frame.h"
+#include "platform/Export.h"
 
 namespace HartLinkSim {
 
@@ -29,7 +30,7 @@ class DeviceRequest;
 // "more status available" follows what command 48 told last.
 //
 // Several links may share one device; it outlives them.
-class EmulatedDevice {
+class ZAF_API EmulatedDevice {
  public:
   // When the file is written: after every exchange that changed something, or by Save() alone.
   enum class SaveMode : std::uint8_t { EveryChange, OnDemand };

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "platform/Clock.h"
+#include "platform/Export.h"
 
 namespace HartLinkSim {
 
@@ -35,8 +36,8 @@ struct Fault {
 
 // Reads the text form shown at FaultKind; numbers are decimal or "0x…". Raises InvalidArgument
 // naming what is wrong and the allowed forms.
-Fault ParseFault(std::string_view text);
-std::string FaultText(const Fault& fault);
+ZAF_API Fault ParseFault(std::string_view text);
+ZAF_API std::string FaultText(const Fault& fault);
 
 // What strikes one exchange.
 struct ActiveFaults {
@@ -54,7 +55,7 @@ struct ActiveFaults {
 
 // The faults of a link. Of no-reply, comm-error, response and busy one exchange suffers the first
 // in the list that is not used up; the others strike side by side.
-class Faults {
+class ZAF_API Faults {
  public:
   Faults() = default;
   // Faults separated by commas ("latency:30, busy:3"); "" for none. Raises like ParseFault.

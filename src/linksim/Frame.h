@@ -6,13 +6,15 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/Export.h"
+
 namespace HartLinkSim {
 
 // The data bytes of one request or reply, coded and decoded by position (from 0) and size in bytes.
 // Writing makes the frame long enough; new bytes are 0. Reading beyond its length raises
 // SubscriptOutOfRange; sizes and values that do not go together raise as hart/Numbers.h and
 // hart/Texts.h say.
-class Frame {
+class ZAF_API Frame {
  public:
   float Float(std::size_t position) const;
   void SetFloat(std::size_t position, float value);

@@ -8,6 +8,7 @@
 
 #include "interfaces/ILink.h"
 #include "linksim/Faults.h"
+#include "platform/Export.h"
 #include "platform/MessageLoop.h"
 #include "platform/Object.h"
 
@@ -21,7 +22,7 @@ inline constexpr std::string_view kEmulatorSettingsKey =
 // A link without a wire: takes its time, suffers its faults, and has the rest answered by what
 // stands behind it. Without latency an exchange is over when Execute returns; otherwise it ends in
 // the message loop of the thread. A link that goes away ends its exchanges as Cancelled.
-class SimulatedLink : public platform::Object, public ZAFHartTypes::ILink {
+class ZAF_API SimulatedLink : public platform::Object, public ZAFHartTypes::ILink {
  public:
   ~SimulatedLink() override;
 

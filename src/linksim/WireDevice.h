@@ -10,6 +10,7 @@
 #include "linksim/CommandCatalogue.h"
 #include "linksim/EmulatedDevice.h"
 #include "linksim/FaultyReply.h"
+#include "platform/Export.h"
 
 namespace HartLinkSim {
 
@@ -27,7 +28,7 @@ struct WireReply {
 // a broadcast when the request has its tag. A damaged request is answered with communication error
 // flags. Commands that it does not have are answered with response code 64, requests that are those
 // of no transaction with 2, too short ones with 5, what it cannot carry out with 6.
-class WireDevice {
+class ZAF_API WireDevice {
  public:
   WireDevice(std::shared_ptr<EmulatedDevice> device, std::shared_ptr<CommandCatalogue> commands);
 

@@ -4,6 +4,8 @@
 #include <cstdint>
 #include <memory>
 
+#include "platform/Export.h"
+
 namespace platform {
 
 using Milliseconds = std::chrono::milliseconds;
@@ -11,7 +13,7 @@ using Milliseconds = std::chrono::milliseconds;
 // Millisecond tick count of the system; wraps around after 49.7 days.
 using TickCount = std::uint32_t;
 
-class Clock {
+class ZAF_API Clock {
  public:
   virtual ~Clock();
   // Time since some fixed moment; never goes back.
@@ -30,10 +32,10 @@ class Clock {
   TickCount CoarseTicks() { return static_cast<TickCount>(CoarseNow().count()); }
 };
 
-std::unique_ptr<Clock> MakeSystemClock();
+ZAF_API std::unique_ptr<Clock> MakeSystemClock();
 
 // A clock for tests: stands still until it is advanced or slept on.
-class ManualClock : public Clock {
+class ZAF_API ManualClock : public Clock {
  public:
   explicit ManualClock(Milliseconds start = Milliseconds{1'000'000});
   Milliseconds Now() override { return now_; }

@@ -8,6 +8,7 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/Export.h"
 #include "platform/Failure.h"
 #include "platform/Object.h"
 
@@ -17,7 +18,7 @@ namespace platform {
 // letter case). A class is registered in code or comes from a plug-in: for a project with no
 // registered class, lib<project, lower case>.so is looked for in the plug-in path, never in the
 // current directory. A plug-in stays loaded until the process ends.
-class ComponentClasses {
+class ZAF_API ComponentClasses {
  public:
   using Factory = std::function<std::shared_ptr<Object>()>;
 
@@ -65,6 +66,6 @@ class ComponentClasses {
 };
 
 // The part of a class name before its first "."; the whole name when it has none.
-std::string_view ProjectOf(std::string_view className);
+ZAF_API std::string_view ProjectOf(std::string_view className);
 
 }  // namespace platform

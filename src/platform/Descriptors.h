@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "platform/Clock.h"
+#include "platform/Export.h"
 
 namespace platform {
 
@@ -19,6 +20,7 @@ struct WatchedDescriptor {
 
 // Blocks until a descriptor is ready, at most `atMost`, and tells for each whether it is. One that
 // was hung up, is broken or closed counts as ready: whoever uses it finds out.
-std::vector<bool> PollDescriptors(std::span<const WatchedDescriptor> watched, Milliseconds atMost);
+ZAF_API std::vector<bool> PollDescriptors(std::span<const WatchedDescriptor> watched,
+                                          Milliseconds atMost);
 
 }  // namespace platform

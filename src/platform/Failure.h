@@ -6,6 +6,8 @@
 #include <string_view>
 #include <utility>
 
+#include "platform/Export.h"
+
 namespace platform {
 
 // Numbers of the run-time failures that the library raises. The small ones are those of the OLE
@@ -30,10 +32,10 @@ enum class ErrorNumber : std::uint32_t {
 };
 
 // The usual text of a number ("Type mismatch", …); "Automation error" for one without a text.
-std::string_view StandardText(ErrorNumber number);
+ZAF_API std::string_view StandardText(ErrorNumber number);
 
 // The only exception that the library throws on purpose.
-class Failure : public std::exception {
+class ZAF_API Failure : public std::exception {
  public:
   // An empty description becomes StandardText(number).
   Failure(ErrorNumber number, std::string source, std::string description = {});
@@ -51,7 +53,7 @@ class Failure : public std::exception {
 };
 
 // The number in decimal as error reports show it: HRESULTs as negative 32-bit integers.
-std::string NumberText(ErrorNumber number);
+ZAF_API std::string NumberText(ErrorNumber number);
 
 // Runs `action` and swallows a Failure, and nothing else. True when it did not fail.
 template <typename Action>

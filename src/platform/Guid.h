@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <string>
 
+#include "platform/Export.h"
 #include "platform/Random.h"
 
 namespace platform {
@@ -14,9 +15,9 @@ struct Guid {
 };
 
 // A random GUID (version 4).
-Guid CreateGuid(RandomSource& random);
+ZAF_API Guid CreateGuid(RandomSource& random);
 
 // "{XXXXXXXX-XXXX-XXXX-XXXX-XXXXXXXXXXXX}", upper-case digits.
-std::string RegistryForm(const Guid& guid);
+ZAF_API std::string RegistryForm(const Guid& guid);
 
 }  // namespace platform

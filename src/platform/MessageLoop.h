@@ -6,6 +6,7 @@
 
 #include "platform/Clock.h"
 #include "platform/Descriptors.h"
+#include "platform/Export.h"
 #include "platform/Failure.h"
 
 namespace platform {
@@ -13,7 +14,7 @@ namespace platform {
 // Handle of a timer, of a posted event or of a watched descriptor. Destroying or cancelling it
 // takes the handler back; a handler may cancel itself while it runs. Outliving the loop is
 // harmless.
-class Subscription {
+class ZAF_API Subscription {
  public:
   class State;
   Subscription() = default;
@@ -30,7 +31,7 @@ class Subscription {
 
 // What a host with a loop of its own (Qt, GLib, libuv) supplies. Both calls come on the loop's
 // thread.
-class HostLoop {
+class ZAF_API HostLoop {
  public:
   virtual ~HostLoop();
   // NextDue() has changed: re-arm the host's timer, then call RunDue() when it fires. Must not
@@ -47,7 +48,7 @@ class HostLoop {
 // the background runs from here. A handler that is on the stack is not entered again: its ticks
 // coalesce into one. A Failure that leaves a handler goes to the failure sink, never into the
 // operation that waits.
-class MessageLoop {
+class ZAF_API MessageLoop {
  public:
   using Handler = std::function<void()>;
   using FailureSink = std::function<void(const Failure&)>;

@@ -8,6 +8,7 @@
 
 #include "platform/Clock.h"
 #include "platform/ComponentClasses.h"
+#include "platform/Export.h"
 #include "platform/MessageLoop.h"
 #include "platform/Random.h"
 #include "platform/Registry.h"
@@ -16,12 +17,12 @@
 namespace platform {
 
 // Identity of this library's application instance and of the calling thread.
-std::uintptr_t ApplicationInstance();
-std::uint64_t ThreadId();
+ZAF_API std::uintptr_t ApplicationInstance();
+ZAF_API std::uint64_t ThreadId();
 
 // Everything the library takes from its surroundings, one per thread. Start here: the members are
 // the seams to the operating system.
-class Platform {
+class ZAF_API Platform {
  public:
   explicit Platform(std::unique_ptr<Clock> clock = MakeSystemClock());
   ~Platform();
@@ -55,10 +56,10 @@ class Platform {
 
 // The platform of the calling thread; made on first use, with the system's clock and the locale of
 // the process environment. A Platform made otherwise has the default locale.
-Platform& Current();
+ZAF_API Platform& Current();
 
 // Makes another platform the current one of this thread until the scope ends.
-class PlatformScope {
+class ZAF_API PlatformScope {
  public:
   explicit PlatformScope(Platform& platform);
   ~PlatformScope();

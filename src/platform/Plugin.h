@@ -2,26 +2,21 @@
 
 #include <cstdint>
 #include <memory>
-#include <vector>
 
 #include "platform/Object.h"
 #include "platform/Version.h"
 
-#define ZAF_TEXT_OF_(value) #value
-#define ZAF_TEXT_OF(value) ZAF_TEXT_OF_(value)
-
-#if defined(__clang__)
-#define ZAF_COMPILER "clang " ZAF_TEXT_OF(__clang_major__)
-#elif defined(__GNUC__)
-#define ZAF_COMPILER "g++ " ZAF_TEXT_OF(__GNUC__)
-#else
-#define ZAF_COMPILER "another compiler"
-#endif
-
+// What decides whether objects of the standard library look the same on both sides. The compiler
+// does not: those for one system agree on the layout of classes, on calls and on exceptions.
+#if defined(_GLIBCXX_RELEASE)
 #if defined(_GLIBCXX_DEBUG)
-#define ZAF_STANDARD_LIBRARY "libstdc++ " ZAF_TEXT_OF(_GLIBCXX_RELEASE) " in debug mode"
-#elif defined(_GLIBCXX_RELEASE)
-#define ZAF_STANDARD_LIBRARY "libstdc++ " ZAF_TEXT_OF(_GLIBCXX_RELEASE)
+#define ZAF_STANDARD_LIBRARY_MODE " in debug mode"
+#elif !_GLIBCXX_USE_CXX11_ABI
+#define ZAF_STANDARD_LIBRARY_MODE " with its old strings"
+#else
+#define ZAF_STANDARD_LIBRARY_MODE ""
+#endif
+#define ZAF_STANDARD_LIBRARY "libstdc++ " ZAF_TEXT_OF(_GLIBCXX_RELEASE) ZAF_STANDARD_LIBRARY_MODE
 #elif defined(_LIBCPP_VERSION)
 #define ZAF_STANDARD_LIBRARY "libc++ " ZAF_TEXT_OF(_LIBCPP_VERSION)
 #else
@@ -33,10 +28,10 @@ namespace platform {
 // Changes whenever an object made by one build of the library cannot be used by another.
 inline constexpr std::uint32_t kPluginAbi = 3;
 
-// Compiler, standard library and library version that the including file is built with. Static, so
+// Standard library, and series of this library, that the including file is built with. Static, so
 // that a plug-in tells its own and not what the library was built with.
 [[maybe_unused]] static const char* PluginBuildTag() {
-  return ZAF_COMPILER ", " ZAF_STANDARD_LIBRARY ", ZAFHartLib " ZAFHARTLIB_VERSION;
+  return ZAF_STANDARD_LIBRARY ", ZAFHartLib " ZAFHARTLIB_SERIES;
 }
 
 struct PluginClass {

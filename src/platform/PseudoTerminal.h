@@ -7,12 +7,14 @@
 #include <span>
 #include <string>
 
+#include "platform/Export.h"
+
 namespace platform {
 
 // The controlling end of a pseudo terminal, which never blocks; another program opens Name() like a
 // serial port. Bytes go through as they are, unless that program sets its end otherwise. What fails
 // raises DeviceIo with the system's reason. Closed with the object.
-class PseudoTerminal {
+class ZAF_API PseudoTerminal {
  public:
   PseudoTerminal();
   ~PseudoTerminal();
@@ -36,7 +38,7 @@ class PseudoTerminal {
 
 // A symbolic link that leads somewhere as long as the object lives. One that is there already is
 // replaced; raises PathFileAccess, as for any other file that is in the way.
-class TemporaryLink {
+class ZAF_API TemporaryLink {
  public:
   TemporaryLink(std::filesystem::path link, const std::string& target);
   ~TemporaryLink();

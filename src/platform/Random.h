@@ -3,10 +3,12 @@
 #include <cstdint>
 #include <random>
 
+#include "platform/Export.h"
+
 namespace platform {
 
 // Seedable source of random numbers; seeded from the system unless a seed is given.
-class RandomSource {
+class ZAF_API RandomSource {
  public:
   RandomSource();
   explicit RandomSource(std::uint64_t seed);

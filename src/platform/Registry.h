@@ -7,6 +7,8 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/Export.h"
+
 namespace platform {
 
 // A tree of keys addressed by full path ("\HKEY_LOCAL_MACHINE\SOFTWARE\…"), each with named text
@@ -15,7 +17,7 @@ namespace platform {
 //
 // File form: "[path]" lines open a key, "name=value" lines set values of it, ";" starts a comment
 // line. Blanks around names and values are trimmed; one pair of quotes around a value is taken off.
-class Registry {
+class ZAF_API Registry {
  public:
   bool HasKey(std::string_view path) const;
   // Nothing when the key or the value is absent.

@@ -5,6 +5,7 @@
 #include <optional>
 #include <span>
 
+#include "platform/Export.h"
 #include "platform/SocketAddress.h"
 
 // Sockets that never block: watch Descriptor() with MessageLoop::Watch and call again. What fails
@@ -12,7 +13,7 @@
 // the object; cancel the watch first.
 namespace platform {
 
-class Socket {
+class ZAF_API Socket {
  public:
   Socket(Socket&& other) noexcept;
   Socket& operator=(Socket&& other) noexcept;
@@ -32,7 +33,7 @@ class Socket {
   int descriptor_;
 };
 
-class UdpSocket : public Socket {
+class ZAF_API UdpSocket : public Socket {
  public:
   // Exchanges datagrams with this peer only. That it refuses them, a later call tells.
   static UdpSocket ConnectTo(const SocketAddress& peer);
@@ -60,7 +61,7 @@ class UdpSocket : public Socket {
   using Socket::Socket;
 };
 
-class TcpSocket : public Socket {
+class ZAF_API TcpSocket : public Socket {
  public:
   // Starts to connect; the socket becomes writable when that has ended.
   static TcpSocket ConnectTo(const SocketAddress& peer);
@@ -77,7 +78,7 @@ class TcpSocket : public Socket {
   using Socket::Socket;
 };
 
-class TcpListener : public Socket {
+class ZAF_API TcpListener : public Socket {
  public:
   // Port 0 for any free one. A port whose last connections are still fading is taken all the same.
   static TcpListener BindTo(const SocketAddress& local);

@@ -6,13 +6,15 @@
 #include <string>
 #include <string_view>
 
+#include "platform/Export.h"
+
 namespace platform {
 
 // Paths from INI and optimisation data separate folders by "\"; the system's way instead.
-std::filesystem::path SystemPath(std::string_view path);
+ZAF_API std::filesystem::path SystemPath(std::string_view path);
 
 // Reads a text file line by line (CR LF or LF; a byte order mark at the start is skipped).
-class TextReader {
+class ZAF_API TextReader {
  public:
   // Raises FileNotFound or PathFileAccess; the description names the file.
   explicit TextReader(const std::filesystem::path& file);
@@ -27,11 +29,11 @@ class TextReader {
 };
 
 // The bytes of a file. Raises as TextReader does.
-std::string ReadWholeFile(const std::filesystem::path& file);
+ZAF_API std::string ReadWholeFile(const std::filesystem::path& file);
 
 // Writes a new file beside the old one and renames it over it, so that the old one stays whole when
 // anything fails. Permissions and a symbolic link stay. Raises PathFileAccess naming the file and
 // the reason, also for a file that nobody may write.
-void WriteFileAtomically(const std::filesystem::path& file, std::string_view content);
+ZAF_API void WriteFileAtomically(const std::filesystem::path& file, std::string_view content);
 
 }  // namespace platform

@@ -3,10 +3,12 @@
 #include <string>
 #include <string_view>
 
+#include "platform/Export.h"
+
 namespace platform {
 
 // The user's conventions for numbers and dates.
-struct UserLocale {
+struct ZAF_API UserLocale {
   std::string decimalSeparator = ".";
   // Short date: d, dd, M, MM, yy and yyyy stand for the parts, everything else for itself.
   std::string shortDateFormat = "yyyy-MM-dd";
@@ -21,6 +23,6 @@ struct UserLocale {
 };
 
 // The short date format for a date format of strftime ("%d.%m.%Y"); empty when it has other parts.
-std::string ShortDateFormatOf(std::string_view strftimeFormat);
+ZAF_API std::string ShortDateFormatOf(std::string_view strftimeFormat);
 
 }  // namespace platform

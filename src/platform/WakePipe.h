@@ -1,10 +1,12 @@
 #pragma once
 
+#include "platform/Export.h"
+
 namespace platform {
 
 // Lets another thread wake a message loop: it calls Wake(), and the loop, which watches
 // Descriptor(), finds it readable from then on.
-class WakePipe {
+class ZAF_API WakePipe {
  public:
   // Raises DeviceIo when the system has no descriptors left.
   WakePipe();

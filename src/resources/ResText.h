@@ -3,10 +3,12 @@
 #include <cstdint>
 #include <string>
 
+#include "platform/Export.h"
+
 namespace ZAFHartLib {
 
 // The text of a string resource (see enumDDResourceIDs), all languages in one string; LangText
 // picks one. "" for an unknown number. The reference is good for ever.
-const std::string& ResText(std::int32_t id);
+ZAF_API const std::string& ResText(std::int32_t id);
 
 }  // namespace ZAFHartLib

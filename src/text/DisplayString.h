@@ -4,6 +4,7 @@
 
 #include "ddobjects/TypeInfo.h"
 #include "ddobjects/Variable.h"
+#include "platform/Export.h"
 #include "types/Variant.h"
 
 namespace ZAFHartLib {
@@ -13,11 +14,11 @@ namespace ZAFHartLib {
 // texts as they are, one "*" per character of a password, dates in the user's short date format.
 // "" for a type that is not computed. Raises TypeMismatch or Overflow for a value that does not fit
 // the type (bytes that form no date, a text for a number).
-std::string GetValueDisplayString(const ZAFHartTypes::Variant& value,
-                                  const ZAFHartTypes::TypeInfo& typeInfo);
-std::string GetVariableDisplayString(const ZAFHartTypes::Variable& variable);
+ZAF_API std::string GetValueDisplayString(const ZAFHartTypes::Variant& value,
+                                          const ZAFHartTypes::TypeInfo& typeInfo);
+ZAF_API std::string GetVariableDisplayString(const ZAFHartTypes::Variable& variable);
 
 // A negative value as its unsigned 32-bit equivalent (value + 4294967296); others as they are.
-double ToUnsigned32(double value);
+ZAF_API double ToUnsigned32(double value);
 
 }  // namespace ZAFHartLib

@@ -3,6 +3,8 @@
 #include <string>
 #include <string_view>
 
+#include "platform/Export.h"
+
 namespace ZAFHartLib {
 
 // Multilingual texts: an English text, then for each further language "|", a language code, "|" and
@@ -16,11 +18,11 @@ struct LanguageSegment {
 
 // Takes the next segment off `rest`. False at the end, at a broken segment and at an empty one,
 // which ends the reading. The views point into `rest` or are constants.
-bool NextLanguageSegment(std::string_view& rest, LanguageSegment& segment);
+ZAF_API bool NextLanguageSegment(std::string_view& rest, LanguageSegment& segment);
 
 // The segments whose code contains `lang`, joined; without any, the English ones; without those,
 // the first segment. An empty `lang` is contained in every code. A text without "|" is returned as
 // it is.
-std::string LangText(std::string_view text, std::string_view lang);
+ZAF_API std::string LangText(std::string_view text, std::string_view lang);
 
 }  // namespace ZAFHartLib

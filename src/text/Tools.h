@@ -5,6 +5,7 @@
 
 #include "ddobjects/TypeInfo.h"
 #include "ddobjects/Variable.h"
+#include "platform/Export.h"
 #include "platform/Object.h"
 #include "text/TextHelpers.h"
 #include "types/PromptValues.h"
@@ -14,7 +15,7 @@ namespace ZAFHartLib {
 
 // The text functions of the library for components that create their helpers by class name
 // ("ZAFHartLib.Tools"). Start here: the headers named below tell each function's rules.
-class Tools : public platform::Object {
+class ZAF_API Tools : public platform::Object {
  public:
   // text/modDDPrintF.h
   std::string FormatDDString(const std::string& prompt,

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "interfaces/IDDDebugTracer.h"
+#include "platform/Export.h"
 
 namespace ZAFHartLib {
 
@@ -16,7 +17,7 @@ inline constexpr const char* kLineBreak = "\r\n";
 // operations follow, outermost first. The entry of a running operation is built when it is read.
 //
 // Owned by the GUI manager and shared with its trace objects, which outlive it harmlessly.
-class StackInformation {
+class ZAF_API StackInformation {
  public:
   StackInformation();
 
@@ -57,7 +58,7 @@ class StackInformation {
 };
 
 // Offered by the GUI manager.
-class IStackInformationOwner {
+class ZAF_API IStackInformationOwner {
  public:
   virtual ~IStackInformationOwner() = default;
   virtual std::shared_ptr<ZAFHartLib::StackInformation> StackInformation() const = 0;

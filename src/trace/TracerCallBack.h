@@ -1,6 +1,7 @@
 #pragma once
 
 #include "interfaces/IDDExternalTracer.h"
+#include "platform/Export.h"
 
 namespace ZAFHartLib {
 
@@ -8,7 +9,7 @@ class CExternalTraceConnection;
 
 // What a connection hands to its tracer: filters, detail level and watch list. A tracer may keep it
 // beyond the connection's life.
-class TracerCallBack final : public ZAFHartTypes::IDDExternalTracerCallBack {
+class ZAF_API TracerCallBack final : public ZAFHartTypes::IDDExternalTracerCallBack {
  public:
   explicit TracerCallBack(CExternalTraceConnection& connection) : connection_(&connection) {}
   // The connection goes away; Terminate has no effect from now on.

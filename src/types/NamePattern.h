@@ -2,11 +2,13 @@
 
 #include <string_view>
 
+#include "platform/Export.h"
+
 namespace ZAFHartTypes {
 
 // The text holds * (any characters) or ? (one character).
-bool IsPattern(std::string_view text);
+ZAF_API bool IsPattern(std::string_view text);
 // Without regard to letter case.
-bool MatchesPattern(std::string_view name, std::string_view pattern);
+ZAF_API bool MatchesPattern(std::string_view name, std::string_view pattern);
 
 }  // namespace ZAFHartTypes

@@ -5,6 +5,8 @@
 #include <string>
 #include <string_view>
 
+#include "platform/Export.h"
+
 // Numbers and dates as texts, by the OLE Automation rules and the current platform's locale.
 namespace ZAFHartTypes {
 
@@ -14,23 +16,23 @@ inline constexpr int kDoubleDigits = 15;
 
 // The shortest text of at most `digits` significant digits; exponent form ("1E+15", "1E-05") for
 // numbers of more digits than that before the point or with more than four zeros behind it.
-std::string NumberToText(double value, int digits = kDoubleDigits);
+ZAF_API std::string NumberToText(double value, int digits = kDoubleDigits);
 // mantissa / 10^scale in full, without trailing zeros.
-std::string ScaledToText(std::int64_t mantissa, unsigned scale);
+ZAF_API std::string ScaledToText(std::int64_t mantissa, unsigned scale);
 
 // Reads [blanks][sign]digits[separator digits][E[sign]digits][blanks]; nothing for other texts.
 // Raises Overflow for a number beyond a double.
-std::optional<double> TextToNumber(std::string_view text);
+ZAF_API std::optional<double> TextToNumber(std::string_view text);
 
 // "True" and "False" in any letter case; nothing for other texts.
-std::optional<bool> TextToBoolean(std::string_view text);
+ZAF_API std::optional<bool> TextToBoolean(std::string_view text);
 
 // Serial numbers of dates, days since 30 December 1899.
-std::string DateToText(double serial);
+ZAF_API std::string DateToText(double serial);
 // Reads "yyyy-MM-dd" or the user's short date, with or without a time of day ("HH:mm" or
 // "HH:mm:ss"), or the time alone; nothing for other texts.
-std::optional<double> TextToDate(std::string_view text);
+ZAF_API std::optional<double> TextToDate(std::string_view text);
 // Nothing when the three do not form a date.
-std::optional<double> DateSerial(int year, int month, int day);
+ZAF_API std::optional<double> DateSerial(int year, int month, int day);
 
 }  // namespace ZAFHartTypes

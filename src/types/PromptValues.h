@@ -4,6 +4,7 @@
 #include <string>
 #include <string_view>
 
+#include "platform/Export.h"
 #include "types/TextKey.h"
 #include "types/Variant.h"
 
@@ -11,7 +12,7 @@ namespace ZAFHartTypes {
 
 // Values that the references of a prompt are filled from. Keys compare without regard to letter
 // case.
-class PromptValues {
+class ZAF_API PromptValues {
  public:
   // An earlier value of the key is replaced.
   void Set(std::string_view key, Variant value) {

@@ -4,10 +4,12 @@
 #include <string>
 #include <string_view>
 
+#include "platform/Export.h"
+
 namespace ZAFHartTypes {
 
 // An immutable UTF-8 text that copies by reference. A default-made one is "".
-class SharedText {
+class ZAF_API SharedText {
  public:
   SharedText() = default;
   SharedText(std::string text)  // NOLINT(google-explicit-constructor)

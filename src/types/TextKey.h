@@ -5,16 +5,18 @@
 #include <string>
 #include <string_view>
 
+#include "platform/Export.h"
+
 namespace ZAFHartTypes {
 
 // UTF-8 text with letter case taken away: ASCII, Latin-1, Greek and Cyrillic letters, "°", "Ω" (the
 // unit sign and the letter are one) and the like. Keys of every keyed list compare through it.
-std::string FoldCase(std::string_view text);
-bool SameKey(std::string_view a, std::string_view b);
+ZAF_API std::string FoldCase(std::string_view text);
+ZAF_API bool SameKey(std::string_view a, std::string_view b);
 
 // A name interned for the life of the process: comparing two costs a pointer comparison.
 // Names come from DDs and from code, so their number is bounded.
-class TextKey {
+class ZAF_API TextKey {
  public:
   TextKey() = default;
   // The key of a name, made when it is new.
@@ -46,7 +48,7 @@ class TextKey {
   friend struct TextKeyPool;
 };
 
-struct TextKeyHash {
+struct ZAF_API TextKeyHash {
   std::size_t operator()(TextKey key) const { return key.Hash(); }
 };
 

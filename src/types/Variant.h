@@ -7,6 +7,7 @@
 #include <variant>
 #include <vector>
 
+#include "platform/Export.h"
 #include "types/SharedText.h"
 
 namespace ZAFHartTypes {
@@ -52,7 +53,7 @@ struct Decimal {
 // Conversions follow the OLE Automation rules: rounding halves to even; a value that does not fit
 // raises Overflow, one that cannot be converted TypeMismatch. Texts are read and written with the
 // decimal separator of the current platform's locale.
-class Variant {
+class ZAF_API Variant {
  public:
   using ArrayType = std::shared_ptr<const std::vector<Variant>>;
 

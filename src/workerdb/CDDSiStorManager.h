@@ -2,6 +2,7 @@
 
 #include <memory>
 
+#include "platform/Export.h"
 #include "platform/Object.h"
 #include "workerdb/CDDWorkerDB.h"
 
@@ -10,9 +11,9 @@ namespace ZAFHartLib {
 // Pairs the offline and the online data set of one device: the variables whose names contain
 // "ZAFsingleStorage_" have one value for both. What changes in one database is written into the
 // other at once and shown there.
-class CDDSiStorManager : public platform::Object,
-                         public ISingleStorage,
-                         public std::enable_shared_from_this<CDDSiStorManager> {
+class ZAF_API CDDSiStorManager : public platform::Object,
+                                 public ISingleStorage,
+                                 public std::enable_shared_from_this<CDDSiStorManager> {
  public:
   using Components = std::shared_ptr<ZAFHartTypes::IDDComponents>;
 

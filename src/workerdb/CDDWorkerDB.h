@@ -14,6 +14,7 @@
 #include "ddobjects/KeyedList.h"
 #include "interfaces/ComponentBase.h"
 #include "interfaces/IDDWorkerDB.h"
+#include "platform/Export.h"
 #include "platform/Object.h"
 #include "types/LateBound.h"
 #include "workerdb/DependencyTable.h"
@@ -42,10 +43,10 @@ using NameSet = std::unordered_set<ZAFHartTypes::TextKey, ZAFHartTypes::TextKeyH
 // A variable that is read is a snapshot; WriteObject takes over what was changed on it. Objects of
 // the other kinds are the stored ones. No data model is called from here. One thread, see
 // IDDKernel.
-class CDDWorkerDB : public platform::Object,
-                    public ZAFHartTypes::IDDWorkerDB,
-                    public ZAFHartTypes::IDataBaseExtension,
-                    public ZAFHartTypes::ILateBound {
+class ZAF_API CDDWorkerDB : public platform::Object,
+                            public ZAFHartTypes::IDDWorkerDB,
+                            public ZAFHartTypes::IDataBaseExtension,
+                            public ZAFHartTypes::ILateBound {
  public:
   // Tests of what happens after the last generation start near it.
   explicit CDDWorkerDB(std::int32_t firstGeneration = 1);

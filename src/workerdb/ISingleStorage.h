@@ -4,12 +4,13 @@
 
 #include "ddobjects/DDObject.h"
 #include "interfaces/Codes.h"
+#include "platform/Export.h"
 #include "types/Variant.h"
 
 namespace ZAFHartLib {
 
 // What a worker database asks of the manager that pairs an offline and an online data set.
-class ISingleStorage {
+class ZAF_API ISingleStorage {
  public:
   virtual ~ISingleStorage() = default;
   // The item has one value for both data sets.
