@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "platform/Export.h"
 #include "types/Failure.h"
 
 namespace ZAFHartTypes {
@@ -33,7 +34,7 @@ std::string DefinitionList::Describe(std::int16_t infoLevel) const {
   return text += ")";
 }
 
-bool operator==(const DefinitionList& a, const DefinitionList& b) {
+ZAF_API bool operator==(const DefinitionList& a, const DefinitionList& b) {
   return std::equal(a.begin(), a.end(), b.begin(), b.end(),
                     [](const Definition& x, const Definition& y) { return x.IsSameAs(y); });
 }

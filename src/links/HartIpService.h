@@ -11,6 +11,7 @@
 #include "hart/HartIpMessage.h"
 #include "hart/LinkFrame.h"
 #include "linksim/WireDevice.h"
+#include "platform/Export.h"
 #include "platform/MessageLoop.h"
 
 namespace HartLinks {
@@ -37,7 +38,7 @@ struct HartIpServiceOptions {
 // are refused with a NAK, those of another protocol version with status 14, session or not; what is
 // malformed or no request is passed over. A device that does not answer makes the response's body
 // empty. A request that comes once more is answered once more and carried out once.
-class HartIpService {
+class ZAF_API HartIpService {
  public:
   // Where a client's messages come from and go to.
   class Client {

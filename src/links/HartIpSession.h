@@ -9,6 +9,7 @@
 #include "links/FrameCarrier.h"
 #include "links/HartIpConnection.h"
 #include "links/RequestQueue.h"
+#include "platform/Export.h"
 
 namespace HartLinks {
 
@@ -25,7 +26,7 @@ namespace HartLinks {
 //   out, so they end without a reply and their sender decides. Only what the server refused with a
 //   NAK was certainly not carried out; it is sent once more, in a new session. What was not sent
 //   yet waits for a new session, at most HartIpOptions::connectTimeout.
-class HartIpSession : public FrameCarrier, private HartIpConnection::User {
+class ZAF_API HartIpSession : public FrameCarrier, private HartIpConnection::User {
  public:
   using PublishHandler = std::function<void(const ZAFHartTypes::hart::LinkFrame&)>;
 
