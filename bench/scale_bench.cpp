@@ -3,7 +3,7 @@
 
 #include "ScalableModel.h"
 #include "gui/CDDDTMGUI.h"
-#include "hartframe/Control.h"
+#include "interfaces/ControlBase.h"
 #include "platform/Platform.h"
 
 // What a large plant costs: many commands in one DTM, many instances in one process.
@@ -29,7 +29,7 @@ void FindReadCommand(benchmark::State& state) {
 BENCHMARK(FindReadCommand)->Arg(25)->Arg(250)->Arg(2500);
 
 // A control that wants the same live values refreshed all the time.
-class LiveControl : public hartframe::Control, public IGuiCont2 {
+class LiveControl : public ZAFHartTypes::ControlBase, public IGuiCont2 {
  public:
   std::uint64_t ThreadID() const override { return platform::ThreadId(); }
   std::uintptr_t hAppInstance() const override { return platform::ApplicationInstance(); }

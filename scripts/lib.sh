@@ -5,6 +5,7 @@ cd "$(dirname "${BASH_SOURCE[0]}")/.."
 BUILD_PACKAGES=(g++ cmake ninja-build nlohmann-json3-dev libcli11-dev libncurses-dev)
 TEST_PACKAGES=(libgtest-dev libgmock-dev libbenchmark-dev)
 PCAP_PACKAGES=(tshark python3)
+PACKAGE_PACKAGES=(clang libuv1-dev pkg-config python3)
 JOBS=$(nproc)
 
 # need_packages NAME...: installs the Debian packages that are missing, or says which they are.

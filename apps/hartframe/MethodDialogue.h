@@ -4,9 +4,9 @@
 #include <optional>
 #include <string>
 
-#include "hartframe/Control.h"
 #include "hartframe/MethodWatch.h"
 #include "hartframe/Session.h"
+#include "interfaces/ControlBase.h"
 
 namespace hartframe {
 
@@ -14,7 +14,7 @@ namespace hartframe {
 // from the user at the terminal. Errors are shown and need none. An answer that is missing or not
 // accepted aborts the method. While it is being aborted, no more answers of the script are used:
 // what is to be acknowledged passes, what is asked for is cancelled.
-class MethodDialogue : public Control {
+class MethodDialogue : public ZAFHartTypes::ControlBase {
  public:
   MethodDialogue(Session& session, MethodWatch& watch);
 

@@ -4,16 +4,16 @@
 #include <vector>
 
 #include "hartframe/Console.h"
-#include "hartframe/Control.h"
 #include "hartframe/SignalWatch.h"
 #include "hartframe/Speech.h"
+#include "interfaces/ControlBase.h"
 #include "interfaces/IGuiCtrl.h"
 
 namespace hartframe {
 
 // The registered control: shows the progress of upload, download and write changes, and lets the
 // GUI manager refresh the live values that it watches.
-class ViewControl : public Control, public ZAFHartTypes::IGuiCont2 {
+class ViewControl : public ZAFHartTypes::ControlBase, public ZAFHartTypes::IGuiCont2 {
  public:
   using Updated = std::function<void(const std::vector<ZAFHartTypes::Definition>&)>;
 

@@ -4,7 +4,7 @@
 
 #include "components/LibraryClasses.h"
 #include "gui/CDDDTMGUI.h"
-#include "hartframe/Control.h"
+#include "interfaces/ControlBase.h"
 #include "interfaces/IGuiCtrl.h"
 #include "interfaces/InternalNames.h"
 #include "sampletemperature/SampleTemperature.h"
@@ -36,7 +36,7 @@ class Handler : public IDDErrorHandler {
 
 // Answers messages at random; has live values refreshed. What it is shown as not writable for the
 // moment has lost its mark for that reason.
-class User : public hartframe::Control, public IGuiCont2 {
+class User : public ZAFHartTypes::ControlBase, public IGuiCont2 {
  public:
   using Answer = std::function<std::int32_t(UserMessage&)>;
   User(Answer answer, const std::vector<Definition>& live, Names& refused)

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "hartframe/Control.h"
+#include "interfaces/ControlBase.h"
 #include "interfaces/IGuiCtrl.h"
 
 namespace hartframe::browse {
@@ -26,7 +26,7 @@ class IFrame {
 
 // The frame's one control, with every interface that the GUI manager looks for. Outlives the frame
 // when the GUI manager still holds it, and shows nothing from then on.
-class FrameControl : public Control,
+class FrameControl : public ZAFHartTypes::ControlBase,
                      public ZAFHartTypes::IGuiContainer,
                      public ZAFHartTypes::IGuiCont2,
                      public ZAFHartTypes::IGuiCtrl,
@@ -37,7 +37,7 @@ class FrameControl : public Control,
 
   // --- IDDDTMGUI ---
   void SetComponentModel(const std::shared_ptr<ZAFHartTypes::IDDComponents>& components) override {
-    Control::SetComponentModel(components);
+    ControlBase::SetComponentModel(components);
   }
   void ShowObject(const std::shared_ptr<ZAFHartTypes::DDObject>& object) override;
   void HideObject(const std::shared_ptr<ZAFHartTypes::DDObject>& object) override;
