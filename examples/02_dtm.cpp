@@ -58,6 +58,7 @@ const DeviceDescription& Description() {
     DescribeIdentity(*dd);
     DescribeLevel(*dd);
     DescribeMenus(*dd);
+    RequireConsistent(*dd);
     return dd;
   }();
   return *description;

@@ -63,6 +63,37 @@ TEST(Catalogue, RefusesWhatContradictsItself) {
   }
 }
 
+TEST(DescriptionCheck, NamesEveryMistake) {
+  DeviceDescription dd;
+  dd.Variable("response_code").Unsigned(1).Local();
+  dd.Variable("device_status").Unsigned(1).Local();
+  dd.Variable("unit").Enumerated(1, MakeEnums({{7, "bar"}, {255, "special"}})).Default(7);
+  dd.Variable("level").Float().Range(0, 60).Default(1.5F);
+  dd.Command("read", 128, Operation::Read).Reply({Byte(1), "unit", "level"});
+  dd.Menu("root_menu").Variables({"level", "__ZAF__OnlineMode"});
+  RequireConsistent(dd);
+
+  dd.Variable("bare");
+  dd.Variable("wide").Unsigned(9);
+  dd.Variable("code").Enumerated(1, MakeEnums({{700, "kPa"}}));
+  dd.Variable("delay").Float().Range(0, 60).Default(99);
+  dd.Variable("later").OnCompute([](Context&, Variable& variable) { variable.SetValue(1); });
+  dd.Variable("acting").Float().Actions(ActionList::PreEdit, {"warn"});
+  dd.Command("write", 129, Operation::Write).Request({"lvel"}).Reply({"level"});
+  dd.Menu("setup").Menus({"level"});
+  dd.UnitRelation("units").Unit("unt").Dependents({"level"});
+  const std::string mistakes =
+      support::FailureOf([&dd] { RequireConsistent(dd); }).Description() + "\n";
+  EXPECT_THAT(mistakes, testing::MatchesRegex("VARIABLE \"bare\" .*no type.*\n"
+                                              "VARIABLE \"wide\" .*9 bytes.*\n"
+                                              "VARIABLE \"code\" .*700.*\n"
+                                              "VARIABLE \"delay\" .*\"99\".*\n"
+                                              "VARIABLE \"acting\" .*METHOD \"warn\".*\n"
+                                              "COMMAND \"write\" .*VARIABLE \"lvel\".*\n"
+                                              "MENU \"setup\" .*MENU \"level\".*\n"
+                                              "UNIT \"units\" .*VARIABLE \"unt\".*\n"));
+}
+
 void DescribeSlots(DeviceDescription& dd) {
   auto slots = dd.Array("slots");
   for (const std::string n : {"1", "2"}) {

@@ -15,6 +15,7 @@ std::unique_ptr<const Catalogue> MakeDescription() {
   DescribeRelations(*dd);
   DescribeMethods(*dd);
   DescribeMenus(*dd);
+  RequireConsistent(*dd);
   return dd;
 }
 

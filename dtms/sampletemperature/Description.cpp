@@ -45,6 +45,7 @@ std::unique_ptr<const Catalogue> MakeDescription() {
   DescribeEditDisplays(*dd);
   DescribeUploadMenu(*dd);
   DescribeMenus(*dd);
+  RequireConsistent(*dd);
   return dd;
 }
 
