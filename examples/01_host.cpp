@@ -68,7 +68,7 @@ void Run(int argc, char** argv) {
   for (const char* name : {"tag", "sensor_type", "upper_range_value", "damping_value"})
     Show(*dtm, name);
 
-  dtm->DDKernel()->WriteVariable(VariableNamed("damping_value"), 4.0);
+  dtm->DDWorkerDB()->WriteValue(VariableNamed("damping_value"), 4.0);
   dtm->WriteChanges();
   std::printf("The device has now: %s\n", device->Value("damping_value")->ToText().c_str());
   dtm->PrepareTermination();
