@@ -32,5 +32,26 @@ TEST(ResTextTest, TableIsWellFormed) {
   }
 }
 
+TEST(ResTextTest, AllLanguagesTellOfTheConnection) {
+  for (const StringResource& resource : StringTable()) {
+    const bool isOfConnection = resource.id == idErrNoConnection ||
+                                (resource.id >= idNotConnected && resource.id <= idWaiting);
+    if (!isOfConnection) continue;
+    std::string codes;
+    std::string_view rest = resource.text;
+    LanguageSegment segment;
+    while (NextLanguageSegment(rest, segment)) codes += segment.code;
+    EXPECT_EQ(codes, "endefriteskt") << resource.id;
+    for (const std::string_view place : {"%{s1}", "%{s2}", "%{s3}"}) {
+      const std::string english = LangText(resource.text, "en");
+      for (const char* code : {"de", "fr", "it", "es", "kt"}) {
+        EXPECT_EQ(LangText(resource.text, code).find(place) == std::string::npos,
+                  english.find(place) == std::string::npos)
+            << resource.id << code;
+      }
+    }
+  }
+}
+
 }  // namespace
 }  // namespace ZAFHartLib

@@ -129,7 +129,8 @@ class CommWrapper : public platform::Object,
   // Ends the exchanges in the background as Cancelled; their completion goes on.
   void CancelBackground();
   void StoreOnlineState(ZAFHartTypes::OnlineMode mode, ZAFHartTypes::DtmOnlineState state);
-  void ShowConnectionError(ErrorSeverity severity);
+  // `refusal` is the response code that command 0 was refused with; 0 for none.
+  void ShowConnectionError(ErrorSeverity severity, std::uint8_t refusal);
 
  private:
   struct UnderWay {

@@ -23,10 +23,12 @@ std::string Neutral(std::string value) {
   return value;
 }
 
-std::string Filled(std::int32_t id, const std::string& first, const std::string& second) {
+std::string Filled(std::int32_t id, const std::string& first, const std::string& second,
+                   const std::string& third = {}) {
   ZAFHartTypes::PromptValues values;
   values.Set("s1", Neutral(first));
   values.Set("s2", Neutral(second));
+  values.Set("s3", Neutral(third));
   return FormatDDString(ResText(id), values);
 }
 
@@ -46,12 +48,13 @@ std::string ListText(std::span<const SupportedDevice> devices) {
   return text;
 }
 
-// `status` is the first byte of the reply.
-std::string NoIdentityText(const std::string& address, std::uint8_t status) {
+std::string NoIdentityText(const std::string& address, const DeviceSearch::Refusal& refusal) {
+  const std::uint8_t status = refusal.status;
+  const std::string command = std::to_string(refusal.command);
   const bool isRefused = status != hart::kSuccess && !hart::IsCommunicationError(status);
   const std::uint8_t byte[] = {status};
-  return isRefused ? Filled(idErrIdentityRefused, address, std::to_string(status))
-                   : Filled(idErrIdentityDamaged, address, "0x" + hart::ToHex(byte));
+  return isRefused ? Filled(idErrIdentityRefused, address, std::to_string(status), command)
+                   : Filled(idErrIdentityDamaged, address, "0x" + hart::ToHex(byte), command);
 }
 
 }  // namespace
@@ -63,8 +66,8 @@ std::string NoDeviceText(const std::string& address, std::string reason) {
 
 std::string NotFoundText(const DeviceSearch& search, const std::string& address,
                          const std::string& reason) {
-  const bool isAnswered = reason.empty() && search.Refusal();
-  return isAnswered ? NoIdentityText(address, *search.Refusal()) : NoDeviceText(address, reason);
+  const bool isAnswered = reason.empty() && search.Refused();
+  return isAnswered ? NoIdentityText(address, *search.Refused()) : NoDeviceText(address, reason);
 }
 
 std::string WrongDeviceText(std::span<const SupportedDevice> supported,

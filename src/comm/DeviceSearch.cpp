@@ -114,7 +114,7 @@ void DeviceSearch::Take(const Exchange& exchange) {
   IgnoreFailures([&] {
     const std::vector<std::uint8_t> reply = hart::FromHex(exchange.ReplyData());
     found_ = hart::ReadIdentity(reply);
-    if (!found_ && !reply.empty()) refusal_ = reply.front();
+    if (!found_ && !reply.empty()) refused_ = {exchange.CommandNumber(), reply.front()};
   });
 }
 

@@ -38,8 +38,13 @@ class ZAF_API DeviceSearch {
   // Takes the reply of an exchange that has ended.
   void Take(const ZAFHartTypes::Exchange& exchange);
   const std::optional<ZAFHartTypes::hart::DeviceIdentity>& Found() const { return found_; }
-  // First status byte of the last reply that held no identity; nothing when there was none.
-  const std::optional<std::uint8_t>& Refusal() const { return refusal_; }
+  // The last reply that held no identity.
+  struct Refusal {
+    std::int16_t command;
+    std::uint8_t status;  // its first status byte
+  };
+  // Nothing when there was none.
+  const std::optional<Refusal>& Refused() const { return refused_; }
 
  private:
   struct Request {
@@ -54,7 +59,7 @@ class ZAF_API DeviceSearch {
   std::size_t next_ = 0;
   std::size_t end_ = 0;
   std::optional<ZAFHartTypes::hart::DeviceIdentity> found_;
-  std::optional<std::uint8_t> refusal_;
+  std::optional<Refusal> refused_;
 };
 
 }  // namespace ZAFHartLib

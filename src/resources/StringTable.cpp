@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "resources/ConnectionStrings.h"
 #include "resources/enumDDResourceIDs.h"
 
 namespace ZAFHartLib {
@@ -24,8 +25,7 @@ constexpr auto kTable = std::to_array<StringResource>({
     {idErrXmtrStatus, "Status \"%{s2}\" in status variable \"%{s1}\" not found!"},
     {idErrXmtrResp, "Response code \"%{s2}\" in status variable \"%{s1}\" not found!"},
     {idErrMethodNotInList, "Method \"%{s}\" not in list!"},
-    {idErrNoConnection,
-     "could not establish a connection|de|Verbindung konnte nicht aufgebaut werden"},
+    {idErrNoConnection, strings::kNoConnection},
 
     {idCommStatusEntry, "Communication error|de|Kommunikationsfehler"},
     {idBufferOverflow, "Buffer overflow|de|Pufferüberlauf"},
@@ -182,63 +182,28 @@ constexpr auto kTable = std::to_array<StringResource>({
     {idInternalError, "DTM Internal Error!|de|DTM interner Fehler!"},
     {idActionAborted, "Current action aborted.|de|Aktion abgebrochen."},
 
-    {idNotConnected, "Not Connected|de|Nicht verbunden"},
-    {idNoDeviceFound, "No Device Found|de|Kein Gerät gefunden"},
-    {idWrongDevice, "Wrong Device|de|Falsches Gerät"},
-    {idConnecting, "Connecting|de|Verbindung wird aufgebaut"},
-    {idCheckDeviceType, "Check Connected Device Type|de|Typ des verbundenen Geräts wird geprüft"},
-    {idPreparingDisconnect, "Preparing Disconnect|de|Trennung wird vorbereitet"},
-    {idDisconnecting, "Disconnecting|de|Verbindung wird getrennt"},
-    {idConnected, "Connected|de|Verbunden"},
-    {idErrNoDeviceAnswers,
-     "No device answers at address %{s1}. Check its power, its wiring and the address."
-     "|de|Unter der Adresse %{s1} antwortet kein Gerät. Prüfen Sie Speisung, Verdrahtung und "
-     "Adresse."},
-    {idErrNoDeviceReason,
-     "The device at address %{s1} cannot be reached: %{s2}. Check the link's name, its cable or "
-     "network, and whether somebody else uses it."
-     "|de|Das Gerät unter der Adresse %{s1} ist nicht erreichbar: %{s2}. Prüfen Sie den Namen der "
-     "Verbindung, Kabel oder Netz, und ob jemand anders sie verwendet."},
-    {idErrWrongDevice,
-     "The wrong device is connected. The DTM is for %{s1}, connected is %{s2}. Connect the device "
-     "that the DTM is for, or use the DTM for this one. Nothing is written to it."
-     "|de|Das falsche Gerät ist verbunden. Der DTM ist für %{s1}, verbunden ist %{s2}. Verbinden "
-     "Sie das Gerät, für das der DTM ist, oder verwenden Sie den DTM für dieses. Nichts wird "
-     "dorthin geschrieben."},
-    {idErrOtherDevice,
-     "Another device is connected than before: %{s2} instead of %{s1}. Connect the former one, or "
-     "accept this one and read it anew. Nothing is written to it."
-     "|de|Ein anderes Gerät als zuvor ist verbunden: %{s2} statt %{s1}. Verbinden Sie das frühere, "
-     "oder übernehmen Sie dieses und lesen Sie es neu. Nichts wird dorthin geschrieben."},
-    {idErrDisconnected,
-     "The DTM is disconnected from its device. Connect it first."
-     "|de|Der DTM ist von seinem Gerät getrennt. Stellen Sie zuerst die Verbindung her."},
-    {idErrIdentityRefused,
-     "The device at address %{s1} answers, but refuses with response code %{s2} to tell who it is. "
-     "Wait and try again: codes 32 to 34 are those of a busy device."
-     "|de|Das Gerät unter der Adresse %{s1} antwortet, verweigert aber mit dem Antwortcode %{s2} "
-     "die Auskunft, wer es ist. Warten Sie und versuchen Sie es noch einmal: 32 bis 34 sind die "
-     "Codes "
-     "eines beschäftigten Geräts."},
-    {idErrIdentityDamaged,
-     "The device at address %{s1} answers, but who it is cannot be read (first status byte %{s2}). "
-     "Check the line for disturbances."
-     "|de|Das Gerät unter der Adresse %{s1} antwortet, aber wer es ist, lässt sich nicht lesen "
-     "(erstes Statusbyte %{s2}). Prüfen Sie die Leitung auf Störungen."},
-    {idWaiting, "Waiting ...|de|Warte ..."},
+    {idNotConnected, strings::kNotConnected},
+    {idNoDeviceFound, strings::kNoDeviceFound},
+    {idWrongDevice, strings::kWrongDevice},
+    {idConnecting, strings::kConnecting},
+    {idCheckDeviceType, strings::kCheckDeviceType},
+    {idPreparingDisconnect, strings::kPreparingDisconnect},
+    {idDisconnecting, strings::kDisconnecting},
+    {idConnected, strings::kConnected},
+    {idErrNoDeviceAnswers, strings::kNoDeviceAnswers},
+    {idErrNoDeviceReason, strings::kNoDeviceReason},
+    {idErrWrongDevice, strings::kWrongDeviceConnected},
+    {idErrOtherDevice, strings::kOtherDevice},
+    {idErrDisconnected, strings::kDisconnected},
+    {idErrIdentityRefused, strings::kIdentityRefused},
+    {idErrIdentityDamaged, strings::kIdentityDamaged},
+    {idErrConnectionRefused, strings::kConnectionRefused},
+    {idWaiting, strings::kWaiting},
 
-    {idTitleError, "Error|de|Fehler|fr|Erreur|it|Errore|es|Error"},
-    {idHelpError,
-     "The action could not be completed. Check the connection to the device and try again."
-     "|de|Die Aktion konnte nicht abgeschlossen werden. Prüfen Sie die Verbindung zum Gerät und "
-     "versuchen Sie es erneut."},
-    {idTitleCriticalError,
-     "Critical Error|de|Kritischer Fehler|fr|Erreur critique|it|Errore critico|es|Error crítico"},
-    {idHelpCriticalError,
-     "Communication with the device is not possible. Check the device, its address and the "
-     "connection."
-     "|de|Eine Kommunikation mit dem Gerät ist nicht möglich. Prüfen Sie das Gerät, seine "
-     "Adresse und die Verbindung."},
+    {idTitleError, strings::kTitleError},
+    {idHelpError, strings::kHelpError},
+    {idTitleCriticalError, strings::kTitleCriticalError},
+    {idHelpCriticalError, strings::kHelpCriticalError},
     {idTitleMessage, "Message|de|Nachricht|fr|Message|it|Messaggio|es|Mensaje"},
     {idTitleInputMessage, "Input Message|de|Eingabemeldung"},
 });
