@@ -8,6 +8,7 @@
 #include "hartframe/ExitCode.h"
 #include "hartframe/link/LinkOptions.h"
 #include "hartframe/manual/Completion.h"
+#include "hartframe/manual/HelpFormatter.h"
 #include "hartframe/manual/ManPage.h"
 #include "platform/Version.h"
 
@@ -223,6 +224,7 @@ Options ParseCommandLine(int argc, char** argv) {
   CLI::App app("A frame application for DTMs of HART devices", "hartframe");
   app.set_version_flag("--version", "hartframe " ZAFHARTLIB_VERSION);
   app.footer(ExitCodeHelp());
+  app.formatter(std::make_shared<HelpFormatter>());
   app.require_subcommand(1);
   app.fallthrough();
   AddDtmOptions(app, options);

@@ -21,6 +21,7 @@ struct DocumentedCommand {
   std::vector<DocumentedOption> options;
 };
 
+DocumentedOption Documented(const CLI::Option& option);
 // What the parser knows, without what is not for users; of the program itself when no command.
 std::vector<DocumentedOption> DocumentedOptions(const CLI::App& app);
 std::vector<DocumentedCommand> DocumentedCommands(const CLI::App& app);
