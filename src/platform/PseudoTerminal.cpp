@@ -75,13 +75,19 @@ std::optional<std::size_t> PseudoTerminal::Receive(std::span<std::uint8_t> buffe
 
 TemporaryLink::TemporaryLink(fs::path link, const std::string& target)
     : link_(std::move(link)), target_(target) {
-  std::error_code error;
-  if (fs::is_symlink(link_, error)) fs::remove(link_, error);
-  fs::create_symlink(target_, link_, error);
-  if (error) {
+  const auto refuse = [this](const std::string& reason) {
     throw Failure(ErrorNumber::PathFileAccess, "platform.TemporaryLink",
-                  "Cannot make the link \"" + link_.string() + "\": " + error.message());
+                  "Cannot make the link \"" + link_.string() + "\": " + reason);
+  };
+  std::error_code error;
+  if (fs::is_symlink(link_, error)) {
+    const fs::path leads = fs::read_symlink(link_, error);
+    if (leads != target_ && fs::exists(link_, error))
+      refuse("it leads to " + leads.string() + ", which another program may use");
+    fs::remove(link_, error);
   }
+  fs::create_symlink(target_, link_, error);
+  if (error) refuse(error.message());
 }
 
 // Another program may have made one of its own in its place.

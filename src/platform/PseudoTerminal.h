@@ -36,8 +36,9 @@ class ZAF_API PseudoTerminal {
   std::string name_;
 };
 
-// A symbolic link that leads somewhere as long as the object lives. One that is there already is
-// replaced; raises PathFileAccess, as for any other file that is in the way.
+// A symbolic link that leads somewhere as long as the object lives. One that leads there already,
+// or nowhere any more, is replaced; raises PathFileAccess for one that leads to something else,
+// which another program may use, and for any other file that is in the way.
 class ZAF_API TemporaryLink {
  public:
   TemporaryLink(std::filesystem::path link, const std::string& target);

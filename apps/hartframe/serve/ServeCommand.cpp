@@ -1,6 +1,6 @@
 #include <algorithm>
-#include "hart/HexText.h"
 
+#include "hart/HexText.h"
 #include "hartframe/Commands.h"
 #include "hartframe/serve/Emulation.h"
 #include "hartframe/serve/ServeTexts.h"
@@ -38,11 +38,8 @@ std::unique_ptr<HartIpServer> ServeHartIp(Session& session, Emulation& emulation
   options.udp = serve.udp;
   options.tcp = serve.tcp;
   options.service.burst = [&emulation] { return emulation.Wire().Burst(); };
-  auto server = std::make_unique<HartIpServer>(
+  return std::make_unique<HartIpServer>(
       [&emulation](const auto& request) { return emulation.Answer(request); }, options);
-  if (serve.udp) TellPlace(session, "udp", server->Address().Text());
-  if (serve.tcp) TellPlace(session, "tcp", server->Address().Text());
-  return server;
 }
 
 // A pseudo terminal with the device as if at the end of a modem's line.
@@ -53,8 +50,11 @@ class PtyLine {
                 {.preambles = PreamblesOf(*emulation.Wire().Device())}) {
     const std::filesystem::path& link = session.Settings().serve.ptyLink;
     if (!link.empty()) link_.emplace(link, channel_.Name());
-    TellPlace(session, "pty", link.empty() ? channel_.Name() : link.string());
+    place_ = link.empty() ? channel_.Name() : link.string();
   }
+
+  // What other programs open.
+  const std::string& Place() const { return place_; }
 
  private:
   static int PreamblesOf(const HartLinkSim::EmulatedDevice& device) {
@@ -67,22 +67,53 @@ class PtyLine {
   HartLinks::PtyChannel channel_;
   HartLinks::ModemServer server_;
   std::optional<platform::TemporaryLink> link_;
+  std::string place_;
 };
 
-}  // namespace
+// Where the device can be reached; a place that cannot be had leaves none of them.
+class Places {
+ public:
+  Places(Session& session, Emulation& emulation) : server_(ServeHartIp(session, emulation)) {
+    if (session.Settings().serve.pty) line_.emplace(session, emulation);
+  }
 
-ExitCode RunServe(Session& session) {
-  Emulation emulation(session);
-  TellDevice(session, emulation);
-  std::unique_ptr<HartIpServer> server;
-  std::optional<PtyLine> line;
+  void Tell(Session& session) const {
+    const ServeOptions& serve = session.Settings().serve;
+    if (server_ && serve.udp) TellPlace(session, "udp", server_->Address().Text());
+    if (server_ && serve.tcp) TellPlace(session, "tcp", server_->Address().Text());
+    if (line_) TellPlace(session, "pty", line_->Place());
+  }
+
+ private:
+  std::unique_ptr<HartIpServer> server_;
+  std::optional<PtyLine> line_;
+};
+
+std::unique_ptr<Places> OpenPlaces(Session& session, Emulation& emulation) {
   try {
-    server = ServeHartIp(session, emulation);
-    if (session.Settings().serve.pty) line.emplace(session, emulation);
+    return std::make_unique<Places>(session, emulation);
   } catch (const Failure& failure) {
     throw CommandFailure(ExitCode::Communication,
                          session.Say()(texts::kCannotServe, {failure.Description()}));
   }
+}
+
+// A mistyped name must not pass for the device that was meant.
+void TellNewFile(Session& session) {
+  const std::filesystem::path& file = session.Settings().deviceFile;
+  std::error_code error;
+  if (file.empty() || std::filesystem::exists(file, error)) return;
+  session.Tell().Note("newDevice", session.Say()(texts::kNewDevice, {file.string()}));
+}
+
+}  // namespace
+
+ExitCode RunServe(Session& session) {
+  TellNewFile(session);
+  Emulation emulation(session);
+  const auto places = OpenPlaces(session, emulation);
+  TellDevice(session, emulation);
+  places->Tell(session);
   while (!session.Interrupted()) {
     platform::Current().Loop().WaitStep(platform::Milliseconds(100));
   }
