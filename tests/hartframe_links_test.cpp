@@ -116,6 +116,9 @@ TEST_F(HartframeLink, FaultsOfTheDeviceAreTold) {
   Plug("busy:3");
   EXPECT_EQ(Over({"read", "tag", "--busy", "5"}).code, 0) << "asked again";
   server_.reset();
+  const Result upload = Over({"upload"});
+  EXPECT_EQ(upload.code, 2);
+  EXPECT_EQ(upload.out, "") << "no values that nobody has read";
   const std::string nobody = "127.0.0.1:" + std::to_string(port_);
   const Result none = RunLine({"read", "tag", "--lang", "de", "--dtm", "SampleTemperature",
                                "--link", "hartip://" + nobody + "/tcp?connecttimeout=300"});
@@ -288,7 +291,7 @@ TEST_F(Hartframe, WorksOverAModemsLine) {
   std::optional<ChildProgram> modem;
   const auto plug = [&] {
     modem.emplace(WithDevice({"serve", "--pty", line}), ChildProgram::Streams::Terminal);
-    ASSERT_TRUE(modem->WaitFor("pty "));
+    ASSERT_TRUE(modem->WaitFor("pty ")) << modem->Error();
   };
   const auto over = [&](Arguments arguments) {
     arguments.insert(arguments.end(), {"--link", "modem:" + line + "?master=secondary", "--dtm",
@@ -298,7 +301,12 @@ TEST_F(Hartframe, WorksOverAModemsLine) {
   ASSERT_NO_FATAL_FAILURE(plug());
   EXPECT_THAT(over({"upload"}).out, HasSubstr("89 variables loaded from the device."));
   EXPECT_THAT(over({"scan", "--to", "1"}).out, HasSubstr(kLongAddress));
+  const Result second = Run({"serve", "--hart-ip", "0", "--pty", line});
+  EXPECT_EQ(second.code, 2) << "the line is another one's";
+  EXPECT_EQ(second.out, "") << "and nothing is served";
+  EXPECT_THAT(second.error, HasSubstr("which another program may use"));
   modem.reset();
+  std::filesystem::remove(line);  // its number may be another terminal's by now
   const Result unplugged = over({"write", "alarm_delay=9"});
   EXPECT_EQ(unplugged.code, 2);
   EXPECT_THAT(unplugged.error, HasSubstr(line));

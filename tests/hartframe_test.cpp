@@ -169,6 +169,13 @@ TEST_F(Hartframe, DownloadWritesTheWholeDataSetWithTheChanges) {
   EXPECT_EQ(RunJson({"download", "--fault", "busy"}, 3)["problems"].back()["code"], "incomplete");
 }
 
+TEST_F(Hartframe, ADeviceThatRefusesToSayWhoItIsIsTold) {
+  const Result refused = Run({"upload", "--fault", "response:7"});
+  EXPECT_EQ(refused.code, 3);
+  EXPECT_EQ(refused.out, "") << "no values that nobody has read";
+  EXPECT_THAT(refused.error, HasSubstr("refuses command 0 with response code 7"));
+}
+
 TEST_F(Hartframe, ADeviceIsFoundAtItsPollingAddress) {
   EXPECT_EQ(Run({"write", "polling_address=5"}).code, 0);
   EXPECT_THAT(Run({"read", "tag"}).error, HasSubstr("could not establish a connection"));

@@ -85,7 +85,7 @@ void TellLoaded(Session& session, const Loaded& loaded) {
   std::string sentence = say(Text::Loaded, {std::to_string(loaded.loaded)});
   if (loaded.notValid > 0) sentence += ' ' + say(Text::Skipped, {std::to_string(loaded.notValid)});
   if (loaded.failed > 0) sentence += ' ' + say(Text::NotLoaded, {std::to_string(loaded.failed)});
-  session.Tell().Note("loaded", sentence);
+  if (!loaded.IsFruitless()) session.Tell().Note("loaded", sentence);
   TellTroubles(session, loaded.rows);
   if (loaded.code == ExitCode::Interrupted) {
     session.Tell().Problem("interrupted",

@@ -16,13 +16,15 @@ struct Loaded {
   std::size_t notAttempted = 0;  // left by Ctrl-C
   ExitCode code = ExitCode::Ok;
   bool IsComplete() const { return code == ExitCode::Ok; }
+  // The device gave not one value, and not because the user has ended it.
+  bool IsFruitless() const { return loaded == 0 && !IsComplete() && code != ExitCode::Interrupted; }
 };
 
 // Loads the variables of the DTM's upload menu.
 Loaded LoadDataSet(Session& session);
 // The same variables as they stand in the data set; not attempted are those without a value.
 Loaded HeldDataSet(Session& session);
-// Says how it ended, in sentences.
+// Says how it ended, in sentences; of a fruitless one only why.
 void TellLoaded(Session& session, const Loaded& loaded);
 
 // The worst trouble of the rows, and a sentence about each kind there is.

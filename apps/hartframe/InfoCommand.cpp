@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include "ddobjects/Menu.h"
 #include "hartframe/Changes.h"
 #include "hartframe/Commands.h"
@@ -6,6 +8,7 @@
 #include "hartframe/InfoTexts.h"
 #include "hartframe/dataset/DataSetTexts.h"
 #include "hartframe/dataset/KeptDataSet.h"
+#include "hartframe/link/LinkResults.h"
 #include "interfaces/InternalNames.h"
 
 namespace hartframe {
@@ -64,6 +67,18 @@ std::vector<VariableRow> ReadIdentity(Session& session) {
   return rows;
 }
 
+// Codes of the HART tables that the DTM has no text for are told as the tables have them.
+std::string IdentityValue(const Session& session, const VariableRow& row) {
+  constexpr std::string_view kCodes[] = {"manufacturer_id", "device_type",
+                                         "private_label_distributor"};
+  const bool isNumber = row.value.find_first_not_of("0123456789") == std::string::npos;
+  if (session.Settings().json || row.value.empty() || !isNumber ||
+      std::ranges::find(kCodes, row.name) == std::end(kCodes)) {
+    return row.value;
+  }
+  return HexWord(static_cast<std::uint16_t>(row.variable->Value().ToLong()));
+}
+
 // The variables that the wrapper answers the address from, in a DTM that has them by these names.
 void ReadAddress(Session& session) {
   for (const char* name : {"tag", "polling_address"}) {
@@ -91,7 +106,8 @@ ExitCode TellDevice(Session& session) {
       {"tag", say(Text::InfoTag), OneLine(tag)},
       {"pollingAddress", say(Text::InfoPollingAddress), std::to_string(pollingAddress)},
       {"longAddress", say(Text::InfoLongAddress), longAddress}};
-  for (const VariableRow& row : rows) facts.push_back({row.name, row.label, row.value});
+  for (const VariableRow& row : rows)
+    facts.push_back({row.name, row.label, IdentityValue(session, row)});
   session.Tell().Facts("device", say(Text::InfoDevice), facts);
   return code;
 }

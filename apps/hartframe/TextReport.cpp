@@ -97,13 +97,27 @@ void TextReport::Problem(std::string_view, const std::string& sentence) {
 
 void TextReport::Variables(std::span<const VariableRow> rows) {
   std::vector<std::vector<std::string>> cells;
-  for (VariableRow row : rows) {
-    if (IsTold(row.error)) row.error.clear();  // of all of them, for want of a connection
+  for (const VariableRow& each : rows) {
+    const VariableRow row = Shown(each);
     cells.push_back({row.name, row.label, row.value, row.unit, StateText(row, speech_)});
   }
   console_.Table({speech_(Text::ColumnName), speech_(Text::ColumnLabel), speech_(Text::ColumnValue),
                   speech_(Text::ColumnUnit), speech_(Text::ColumnState)},
                  cells);
+}
+
+// An error that a message has told is that of all variables: no connection. What nobody has read
+// then is the DTM's default.
+VariableRow TextReport::Shown(VariableRow row) const {
+  if (row.error.empty() || !IsTold(row.error)) return row;
+  row.error.clear();
+  if (!row.variable->Available() && !row.variable->ToBeWritten()) row.value = row.unit = "";
+  return row;
+}
+
+MenuRow TextReport::Shown(MenuRow row) const {
+  if (row.variable) row.variable = Shown(*row.variable);
+  return row;
 }
 
 void TextReport::Update(const VariableRow& row) {
@@ -176,9 +190,8 @@ void TextReport::Devices(std::span<const FoundDevice> devices) {
   for (const FoundDevice& device : devices) {
     const auto& identity = device.identity;
     cells.push_back({device.pollingAddress ? std::to_string(*device.pollingAddress) : "-",
-                     identity.LongAddress(), OneLine(device.tag),
-                     std::to_string(identity.Manufacturer()), std::to_string(identity.expandedType),
-                     std::to_string(identity.deviceRevision),
+                     identity.LongAddress(), OneLine(device.tag), HexWord(identity.Manufacturer()),
+                     HexWord(identity.expandedType), std::to_string(identity.deviceRevision),
                      std::to_string(identity.universalRevision), OneLine(device.longTag)});
   }
   if (cells.empty()) return;
@@ -210,8 +223,9 @@ void TextReport::MenuTable(const std::string& title, std::span<const MenuRow> ro
   if (!title.empty()) console_.Out(title);
   std::vector<std::vector<std::string>> cells;
   for (const MenuRow& row : rows) {
-    cells.push_back(MenuCells(row, "", speech_));
-    for (const MenuRow& member : row.members) cells.push_back(MenuCells(member, "  ", speech_));
+    cells.push_back(MenuCells(Shown(row), "", speech_));
+    for (const MenuRow& member : row.members)
+      cells.push_back(MenuCells(Shown(member), "  ", speech_));
   }
   console_.Table(
       {speech_(Text::ColumnName), speech_(Text::ColumnLabel), speech_(Text::ColumnValue),

@@ -38,6 +38,8 @@ class TextReport : public Report {
  private:
   // A message of the DTM has said that.
   bool IsTold(const std::string& sentence) const;
+  VariableRow Shown(VariableRow row) const;
+  MenuRow Shown(MenuRow row) const;
   void MenuTable(const std::string& title, std::span<const MenuRow> rows);
 
   Console& console_;

@@ -51,7 +51,8 @@ ExitCode RunUpload(Session& session) {
   if (!MayDiscard(session, pending))
     return session.Interrupted() ? ExitCode::Interrupted : ExitCode::NotAllowed;
   const Loaded loaded = LoadDiscarding(session);
-  session.Tell().Variables(loaded.rows);
+  // Of a device that tells nothing there is nothing to show but the DTM's defaults.
+  if (!loaded.IsFruitless()) session.Tell().Variables(loaded.rows);
   TellLoaded(session, loaded);
   return loaded.code;
 }

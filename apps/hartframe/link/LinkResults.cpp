@@ -33,6 +33,12 @@ std::vector<std::string> StatusTexts(const RawReply& reply) {
   return texts;
 }
 
+std::string HexWord(std::uint16_t word) {
+  const std::uint8_t bytes[] = {static_cast<std::uint8_t>(word >> 8),
+                                static_cast<std::uint8_t>(word)};
+  return "0x" + ZAFHartTypes::hart::ToHex(bytes);
+}
+
 std::string HexByte(std::uint8_t byte) {
   return "0x" + ZAFHartTypes::hart::ToHex({&byte, 1});
 }

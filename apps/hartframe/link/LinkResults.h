@@ -28,5 +28,7 @@ struct RawReply {
 std::vector<std::string> StatusTexts(const RawReply& reply);
 // "0x40"
 std::string HexByte(std::uint8_t byte);
+// "0xFA10".
+std::string HexWord(std::uint16_t word);
 
 }  // namespace hartframe
