@@ -1,10 +1,6 @@
 #include <gmock/gmock.h>
 
-#include "comm/CHARTCommWrapper.h"
-#include "ddobjects/SupportedDevices.h"
-#include "support/CommTest.h"
-#include "support/HartLine.h"
-#include "types/Failure.h"
+#include "support/HartWrapperTest.h"
 
 // Connecting to a real device: who is found, what is sent, what is refused, the online state.
 namespace test_support {
@@ -15,62 +11,6 @@ using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::SizeIs;
-
-using State = DtmOnlineState;
-
-struct InformationWithDevices : StubInformation, ISupportedDevices {
-  std::vector<SupportedDevice> SupportedDevices() const override { return devices; }
-  std::vector<SupportedDevice> devices;
-};
-
-// The wrapper for real links in the place of the other one.
-struct HartWrapperTest : CommTest {
-  HartWrapperTest() {
-    comm->SetComponentModel(nullptr);
-    components->comm = hart;
-    components->information = information;
-    hart->SetComponentModel(components);
-    hart->SetLink(line);
-    line->onExecute = [this] { Note(); };
-  }
-  // The states that the line has seen, and the present one.
-  void Note() {
-    const auto state = static_cast<State>(Stored("__ZAF__DTMOnlineState").ToLong());
-    if (states.empty() || states.back() != state) states.push_back(state);
-  }
-  bool Read(std::int16_t number = 3) {
-    pv->SetErrorText("");
-    pv->SetAvailable(false);
-    transaction = MakeTransaction({}, {BoundItem(pv)});
-    return hart->ExecuteCommand(number, transaction);
-  }
-  std::shared_ptr<CommandRef> ReadInBackground(std::int16_t number) {
-    auto command = MakeObject<Command>("async_" + std::to_string(number));
-    command->SetNumber(number);
-    command->Transactions().Put(MakeTransaction({}, {BoundItem(pv)}));
-    auto reference = std::make_shared<CommandRef>(command, std::int16_t{0});
-    hart->AsyncExecuteCommand(reference);
-    return reference;
-  }
-  ErrorNumber WriteFailure() {
-    const auto range = MakeVariable("range", TypeCode::Unsigned, 1, std::int32_t{7});
-    range->SetToBeWritten(true);
-    try {
-      hart->ExecuteCommand(35, MakeTransaction({BoundItem(range)}, {BoundItem(range)}));
-    } catch (const Failure& failure) {
-      EXPECT_TRUE(range->ToBeWritten());
-      EXPECT_EQ(range->Value(), Variant(7));
-      return failure.Number();
-    }
-    return {};
-  }
-
-  std::shared_ptr<CHARTCommWrapper> hart = std::make_shared<CHARTCommWrapper>();
-  std::shared_ptr<HartLine> line = std::make_shared<HartLine>();
-  std::shared_ptr<InformationWithDevices> information = std::make_shared<InformationWithDevices>();
-  std::shared_ptr<Variable> pv = MakeVariable("pv", TypeCode::Float, 4, 12.5F);
-  std::vector<State> states;
-};
 
 TEST_F(HartWrapperTest, TakesTheIdentityOutOfTheReply) {
   struct {
@@ -249,7 +189,9 @@ TEST_F(HartWrapperTest, Addresses) {
   hart->SetAddressing(Addressing::LongAddress);
   hart->SetAddressInformation(0, "", "FA10001234");
   EXPECT_TRUE(hart->Connect()) << hart->ConnectionError();
+}
 
+TEST_F(HartWrapperTest, RefusesWhatIsNoAddress) {
   const auto failure = [&](Addressing by, std::int32_t polling, const char* tag,
                            const char* longOne) {
     try {
@@ -265,66 +207,6 @@ TEST_F(HartWrapperTest, Addresses) {
   EXPECT_THAT(failure(Addressing::Tag, 0, "", ""), HasSubstr("no tag"));
   EXPECT_THAT(failure(Addressing::LongAddress, 0, "", ""), HasSubstr("not given"));
   EXPECT_THAT(failure(Addressing::LongAddress, 0, "", "3A10"), HasSubstr("ten hexadecimal digits"));
-}
-
-TEST_F(HartWrapperTest, BackgroundCommandsWaitForTheConnection) {
-  line->latency = platform::Milliseconds{50};
-  const auto first = ReadInBackground(1);
-  const auto second = ReadInBackground(2);
-  EXPECT_THAT(line->log, ElementsAre("0@0"));
-  EXPECT_EQ(hart->OnlineState(), State::Connecting);
-  for (int i = 0; i < 20; ++i) Advance(10);
-  EXPECT_THAT(kernel->ended, ElementsAre(first, second));
-  EXPECT_THAT(line->TakeLog(), ElementsAre("0@0", "1@3A10001234", "2@3A10001234"));
-  EXPECT_TRUE(second->ReferredTransaction()->Completed());
-  // A command that is waited for takes the search over.
-  hart->SetAddressInformation(0, "", "");
-  const auto third = ReadInBackground(1);
-  EXPECT_TRUE(Read());
-  for (int i = 0; i < 20; ++i) Advance(10);
-  EXPECT_THAT(kernel->ended, ElementsAre(first, second, third));
-  EXPECT_THAT(line->TakeLog(), ElementsAre("0@0", "0@0", "1@3A10001234", "3@3A10001234"));
-  // What is under way when the host disconnects ends all the same.
-  const auto fourth = ReadInBackground(1);
-  hart->Disconnect();
-  const auto fifth = ReadInBackground(2);
-  for (int i = 0; i < 5; ++i) Advance(10);
-  EXPECT_THAT(kernel->ended, ElementsAre(first, second, third, fourth, fifth));
-  EXPECT_FALSE(fourth->ReferredTransaction()->Completed());
-  EXPECT_THAT(line->TakeLog(), SizeIs(1));
-}
-
-TEST_F(HartWrapperTest, BackgroundCommandsAreRefusedWithTheReason) {
-  information->devices = {{.expandedType = 0x2606}};
-  const auto first = ReadInBackground(1);
-  for (int i = 0; i < 5; ++i) Advance(10);
-  EXPECT_THAT(kernel->ended, ElementsAre(first));
-  EXPECT_THAT(Gui().messages, ElementsAre(HasSubstr("0x2606")));
-  EXPECT_EQ(pv->ErrorText(), Gui().messages.front());
-  // A tear-down in the middle of a search tells nobody.
-  line->latency = platform::Milliseconds{50};
-  hart->SetAddressInformation(0, "", "");
-  ReadInBackground(1);
-  hart->SetComponentModel(nullptr);
-  for (int i = 0; i < 20; ++i) Advance(10);
-  EXPECT_THAT(kernel->ended, ElementsAre(first));
-}
-
-TEST_F(HartWrapperTest, CancelEndsTheSearch) {
-  line->latency = platform::Milliseconds{1000};
-  const auto user = platform.Loop().StartOnce(platform::Milliseconds{30},
-                                              [&] { EXPECT_TRUE(hart->CancelExchange()); });
-  EXPECT_EQ(WriteFailure(), ErrorNumber::Cancelled);
-  EXPECT_EQ(hart->OnlineState(), State::NotConnected);
-}
-
-TEST_F(HartWrapperTest, PassesTheBusyAttemptsToALinkThatTakesThem) {
-  Add(MakeVariable("__ZAF__RETRYNO", TypeCode::Unsigned, 1, std::int16_t{12}));
-  Read();
-  EXPECT_EQ(line->busyAttempts, 0);
-  line->retriesBusy = true;
-  Read();
-  EXPECT_EQ(line->busyAttempts, 12);
 }
 
 }  // namespace

@@ -146,58 +146,59 @@ TEST_F(KernelRelations, SkipUnitRelationsThatHaveNoUnitVariable) {
   EXPECT_THAT(Execute("u"), IsEmpty());
 }
 
-// Random values and relations: with the index the same relations take effect in the same order as
-// with the full walk.
+// Random relations between five variables, and random changes of these.
+struct RandomWorld : RelationWorld {
+  RandomWorld() {
+    constexpr const char* kNames[] = {"a", "b", "c", "u", "w"};
+    const auto some = [&] { return kNames[random() % std::size(kNames)]; };
+    for (int i = 0; i < 12; ++i) {
+      const std::string name = "r" + std::to_string(i);
+      const bool isUnit = random() % 2 == 0;
+      const char* first = some();
+      const char* second = some();
+      if (isUnit) {
+        AddUnit(name.c_str(), first, {some()});
+      } else {
+        AddRefresh(name.c_str(), {first}, {some()});
+      }
+      if (random() % 2 == 0) continue;
+      model->computes[name] = [=](IDDKernel& k, DDObject& object) {
+        const bool odd = k.ReadVariable(Var("mode"))->Value().ToLong() % 2 != 0;
+        const Definition chosen = Var(odd ? first : second);
+        if (isUnit) return static_cast<UnitRelation&>(object).SetUnitVariable(chosen);
+        static_cast<RefreshRelation&>(object).TriggerItems() = {chosen};
+      };
+    }
+    AddCommand("read_mode", 5, Operation::Read, {}, {Ref("mode")});
+    comm->memory["mode"] = std::int16_t{0};
+    Start();
+    database->SetTrackDependencies(true);
+  }
+  std::vector<std::string> Step() {
+    constexpr const char* kNames[] = {"a", "b", "c", "u", "w"};
+    const char* name = kNames[random() % std::size(kNames)];
+    const auto value = static_cast<std::int16_t>(random() % 6);
+    switch (random() % 5) {
+      case 0:
+        comm->memory["mode"] = value;
+        comm->emulate = random() % 2 == 0;
+        database->SetVariableAvailable(Var("mode"), false);
+        return {};
+      case 1:
+        SetClean("mode", value);
+        return {};
+      case 2:
+        Set(name, value);
+        return {};
+      default:
+        return Execute(name);
+    }
+  }
+  std::mt19937 random{7};
+};
+
+// With the index the same relations take effect in the same order as with the full walk.
 TEST(KernelRelationIndex, RunsWhatTheFullWalkRuns) {
-  struct RandomWorld : RelationWorld {
-    RandomWorld() {
-      constexpr const char* kNames[] = {"a", "b", "c", "u", "w"};
-      const auto some = [&] { return kNames[random() % std::size(kNames)]; };
-      for (int i = 0; i < 12; ++i) {
-        const std::string name = "r" + std::to_string(i);
-        const bool isUnit = random() % 2 == 0;
-        const char* first = some();
-        const char* second = some();
-        if (isUnit) {
-          AddUnit(name.c_str(), first, {some()});
-        } else {
-          AddRefresh(name.c_str(), {first}, {some()});
-        }
-        if (random() % 2 == 0) continue;
-        model->computes[name] = [=](IDDKernel& k, DDObject& object) {
-          const bool odd = k.ReadVariable(Var("mode"))->Value().ToLong() % 2 != 0;
-          const Definition chosen = Var(odd ? first : second);
-          if (isUnit) return static_cast<UnitRelation&>(object).SetUnitVariable(chosen);
-          static_cast<RefreshRelation&>(object).TriggerItems() = {chosen};
-        };
-      }
-      AddCommand("read_mode", 5, Operation::Read, {}, {Ref("mode")});
-      comm->memory["mode"] = std::int16_t{0};
-      Start();
-      database->SetTrackDependencies(true);
-    }
-    std::vector<std::string> Step() {
-      constexpr const char* kNames[] = {"a", "b", "c", "u", "w"};
-      const char* name = kNames[random() % std::size(kNames)];
-      const auto value = static_cast<std::int16_t>(random() % 6);
-      switch (random() % 5) {
-        case 0:
-          comm->memory["mode"] = value;
-          comm->emulate = random() % 2 == 0;
-          database->SetVariableAvailable(Var("mode"), false);
-          return {};
-        case 1:
-          SetClean("mode", value);
-          return {};
-        case 2:
-          Set(name, value);
-          return {};
-        default:
-          return Execute(name);
-      }
-    }
-    std::mt19937 random{7};
-  };
   RandomWorld indexed;
   indexed.tracer->callBack->SetStackLevelFilter(0);
   RandomWorld walked;
