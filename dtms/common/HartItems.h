@@ -32,6 +32,9 @@ void DescribeStandardizedStatus(DeviceDescription& dd);  // bytes 7 to 13 of com
 // …_limit_status, …_family_status. The value's label in English and German.
 void DescribeValueStatus(DeviceDescription& dd, const std::string& name, const std::string& english,
                          const std::string& german);
+// When the values of command 9 were measured.
+void DescribeTimeStamp(DeviceDescription& dd);
+inline constexpr std::string_view kTimeStamp = "data_time_stamp";
 
 // --- commands, by HART command numbers ---
 void DescribeMeasurementCommands(DeviceDescription& dd);           // 1, 2, 3, 8

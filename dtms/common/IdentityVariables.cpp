@@ -8,8 +8,9 @@ using namespace ZAFHartTypes::dtmkit;  // NOLINT(google-build-using-namespace)
 
 namespace {
 
-// Command 0 tells these; nothing writes them but command 59 the number of response preambles.
-void DescribeDevice(DeviceDescription& dd) {
+// What requests to the device are made with. Command 0 tells these and the next; nothing writes
+// them but command 59 the number of response preambles.
+void DescribeAddressing(DeviceDescription& dd) {
   dd.Variable("manufacturer_id")
       .Label("Manufacturer|de|Hersteller")
       .Help("Company that made the device|de|Firma, die das Gerät hergestellt hat")
@@ -40,6 +41,9 @@ void DescribeDevice(DeviceDescription& dd) {
       .Unsigned(1)
       .Range(5, 20)
       .Default(5);
+}
+
+void DescribeDevice(DeviceDescription& dd) {
   dd.Variable("max_device_variables")
       .Label("Last device variable|de|Letzte Gerätevariable")
       .Help(
@@ -141,6 +145,7 @@ void DescribeNames(DeviceDescription& dd) {
 }  // namespace
 
 void DescribeIdentityVariables(DeviceDescription& dd) {
+  DescribeAddressing(dd);
   DescribeDevice(dd);
   DescribeRevisions(dd);
   DescribeNames(dd);

@@ -78,4 +78,15 @@ void DescribeValueStatus(DeviceDescription& dd, const std::string& name, const s
       .Dynamic();
 }
 
+void DescribeTimeStamp(DeviceDescription& dd) {
+  dd.Variable(kTimeStamp)
+      .Label("Time stamp|de|Zeitstempel")
+      .Help(
+          "Time of measurement in steps of 1/32 ms since midnight|de|"
+          "Zeitpunkt der Messung in Schritten von 1/32 ms seit Mitternacht")
+      .Unsigned(4)
+      .ReadOnly()
+      .Dynamic();
+}
+
 }  // namespace hart

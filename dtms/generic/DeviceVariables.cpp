@@ -114,15 +114,8 @@ void DescribeDeviceVariables(DeviceDescription& dd) {
       .Index(1, hart::kDeviceVariables)
       .Default(0)
       .Local();
-  dd.Variable("data_time_stamp")
-      .Label("Time stamp|de|Zeitstempel")
-      .Help(
-          "Time of measurement in steps of 1/32 ms since midnight|de|"
-          "Zeitpunkt der Messung in Schritten von 1/32 ms seit Mitternacht")
-      .Unsigned(4)
-      .ReadOnly()
-      .Dynamic()
-      .ValidWhen(Since(Revision::Hart7));
+  hart::DescribeTimeStamp(dd);
+  dd.Known(hart::kTimeStamp).ValidWhen(Since(Revision::Hart7));
 }
 
 void DescribeDeviceVariableCommands(DeviceDescription& dd) {

@@ -40,14 +40,7 @@ void DescribeValues(DeviceDescription& dd) {
         .Dynamic();
   }
   hart::DescribeLoopValues(dd);
-  dd.Variable("data_time_stamp")
-      .Label("Time stamp|de|Zeitstempel")
-      .Help(
-          "Time of measurement in steps of 1/32 ms since midnight|de|"
-          "Zeitpunkt der Messung in Schritten von 1/32 ms seit Mitternacht")
-      .Unsigned(4)
-      .ReadOnly()
-      .Dynamic();
+  hart::DescribeTimeStamp(dd);
 }
 
 }  // namespace

@@ -54,6 +54,9 @@ void DescribeResistance(DeviceDescription& dd) {
       .Default(0.0F)
       .ValidWhen(HasResistance)
       .WritableWhen([](Context& context) { return context.Long("sensor_wiring") == kTwoWires; });
+}
+
+void DescribeCoefficients(DeviceDescription& dd) {
   dd.Variable("rtd_r0")
       .Label("Resistance at 0 °C|de|Widerstand bei 0 °C")
       .Help(
@@ -138,6 +141,7 @@ void DescribeSensorVariables(DeviceDescription& dd) {
       .Default(static_cast<std::int32_t>(Sensor::TypeK))
       .Actions(ActionList::PreEdit, {"warn_of_sensor_change"});
   DescribeResistance(dd);
+  DescribeCoefficients(dd);
   DescribeColdJunction(dd);
 }
 
