@@ -16,7 +16,9 @@ class WorkerDbDependencies : public WorkerDbFixture {
     database->AddObject(MakeObject<ItemArray>("array"));
     database->SetVariableAvailable({}, true);
     database->SetTrackDependencies(true);
-    database->SetInvalidationSink([this](const Definition& object) { told.insert(object.Name()); });
+    database->SetSinks(
+        {.invalidated = [this](const Definition& object) { told.insert(object.Name()); },
+         .read = {}});
   }
   bool IsCurrent(const std::string& name) {
     return database->ReadObject(VariableNamed(name))->AttributesAvailable();

@@ -1,15 +1,15 @@
 #pragma once
 
+#include <initializer_list>
 #include <memory>
 #include <optional>
 #include <string>
-#include <unordered_map>
-#include <vector>
 
 #include "interfaces/ComponentBase.h"
 #include "interfaces/IAsyncReader.h"
 #include "interfaces/IDDKernel.h"
 #include "kernel/ICommandOptimization.h"
+#include "kernel/PendingContexts.h"
 #include "platform/Object.h"
 
 namespace ZAFHartLib {
@@ -137,6 +137,7 @@ class CHARTKernel : public platform::Object,
   class CommandSearch;
   template <typename View>
   struct Getter;
+  struct Evaluation;
 
   // What belongs to the operation under way; put aside while others may run.
   struct Context {
@@ -148,12 +149,6 @@ class CHARTKernel : public platform::Object,
   enum class Binding : bool { Synchronous, Asynchronous };
   enum class MenuReads : bool { No, Yes };
   enum class PreEdit : bool { No, Yes };
-  // How a relation's evaluation left it: the variables that it answers to, and whether they stand
-  // until its attributes go stale.
-  struct Evaluation {
-    std::vector<ZAFHartTypes::TextKey> triggers;
-    bool settled = true;
-  };
   using OptimizedSearch = std::shared_ptr<CommandRef> (ICommandOptimization::*)(IDDComponents&,
                                                                                 const Definition&);
   using EditItemList = ZAFHartTypes::EditDisplayItems& (EditDisplay::*)();
@@ -222,7 +217,6 @@ class CHARTKernel : public platform::Object,
   void GiveUpWrite(const Definition& definition, const Variant& sent);
   void GiveUpRequest(const Definition& written, const CommandRef& command,
                      const ZAFHartTypes::CommandStatus& status);
-  void MarkModified(const Definition& definition) const;
 
   // --- CommandSearch.cpp ---
   std::shared_ptr<CommandRef> Optimized(OptimizedSearch search, const Definition& definition);
@@ -257,8 +251,6 @@ class CHARTKernel : public platform::Object,
                  const Definition& context);
   template <typename Relation, typename ComputeOperation>
   bool ComputeSpecifier(std::shared_ptr<Relation>& relation, ComputeOperation compute);
-  void KeepPending(const Definition& relation, const Definition& context);
-  std::vector<Definition> TakePending(const Definition& relation);
 
   // --- Editing.cpp, WriteAsOne.cpp ---
   bool BeginsEdit(const Definition& variable);
@@ -294,9 +286,7 @@ class CHARTKernel : public platform::Object,
   DefinitionList relationList_;
   Context context_;
   DependencyFrame* innermostFrame_ = nullptr;
-  // Contexts that arrived while a relation's specifier was being computed, by relation.
-  std::unordered_map<ZAFHartTypes::TextKey, std::vector<Definition>, ZAFHartTypes::TextKeyHash>
-      pendingContexts_;
+  PendingContexts pendingContexts_;
   Definition editedVariable_;  // whose pre-edit actions ran last
   OptimizationTable optimizations_;
   std::unique_ptr<CommandIndex> commandIndex_;

@@ -7,6 +7,7 @@
 #include "kernel/KernelTemplates.h"
 #include "kernel/ResponseClassification.h"
 #include "kernel/ScopedValue.h"
+#include "kernel/StatusBytes.h"
 
 namespace ZAFHartLib {
 

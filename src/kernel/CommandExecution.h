@@ -2,9 +2,9 @@
 
 #include <memory>
 
+#include "ddobjects/ByteBuffer.h"
 #include "ddobjects/Command.h"
 #include "ddobjects/DefinitionList.h"
-#include "kernel/StatusBytes.h"
 
 namespace ZAFHartLib {
 

@@ -37,11 +37,7 @@ CHARTKernel::~CHARTKernel() {
 
 void CHARTKernel::Unhook() {
   const auto database = hookedDatabase_.lock();
-  if (database && database->SinkHolder() == this) {
-    database->SetInvalidationSink({});
-    database->SetReadSink({});
-    database->SetSinkHolder(nullptr);
-  }
+  if (database && database->SinkHolder() == this) database->SetSinks({});
 }
 
 void CHARTKernel::SetComponentModel(const std::shared_ptr<IDDComponents>& components) {
@@ -89,13 +85,15 @@ std::shared_ptr<CDDWorkerDB> CHARTKernel::TrackingDatabase() {
   if (hookedDatabase_.lock() != database || database->SinkHolder() != this) {
     Unhook();
     hookedDatabase_ = database;
-    database->SetSinkHolder(this);
     commandIndex_->Reset(commandList_);
     relationIndex_->Reset(relationList_.Count());
-    database->SetInvalidationSink([this](const Definition& object) { AttributesStale(object); });
-    database->SetReadSink([this](const Definition& item) {
-      if (context_.frame) context_.frame->Note(item, ReadSort::Attributes);
-    });
+    database->SetSinks(
+        {.holder = this,
+         .invalidated = [this](const Definition& object) { AttributesStale(object); },
+         .read =
+             [this](const Definition& item) {
+               if (context_.frame) context_.frame->Note(item, ReadSort::Attributes);
+             }});
   }
   return database;
 }

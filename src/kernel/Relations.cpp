@@ -12,6 +12,13 @@ namespace ZAFHartLib {
 
 using namespace ZAFHartTypes;
 
+// How a relation's evaluation left it: the variables that it answers to, and whether they stand
+// until its attributes go stale.
+struct CHARTKernel::Evaluation {
+  std::vector<TextKey> triggers;
+  bool settled = true;
+};
+
 namespace {
 
 constexpr const char* kRefresh = "IDDKernel_ExecuteRefresh";
@@ -57,7 +64,8 @@ void CHARTKernel::ExecuteRelations(const Definition& variable) {
   }
   // A relation that has kept a context may have to be visited for any variable.
   const auto next = [&](std::size_t from) {
-    return tracking && pendingContexts_.empty() ? relationIndex_->Next(variable.Key(), from) : from;
+    return tracking && pendingContexts_.IsEmpty() ? relationIndex_->Next(variable.Key(), from)
+                                                  : from;
   };
   for (std::size_t i = next(0); i < relationList_.Count(); i = next(i + 1)) {
     const Definition relation = relationList_.Item(i + 1);
@@ -90,7 +98,7 @@ CHARTKernel::Evaluation CHARTKernel::EvaluateRefresh(const Definition& relation,
   KernelOperation operation(*this, kRefresh,
                             {{trace_tag::kDef, relation}, {trace_tag::kContext, context}});
   if (Database()->IsRefreshInRecursion(relation)) {
-    KeepPending(relation, context);
+    pendingContexts_.Keep(relation, context);
     operation.Release(kReEntered);
     return {{}, false};
   }
@@ -107,7 +115,7 @@ CHARTKernel::Evaluation CHARTKernel::EvaluateRefresh(const Definition& relation,
   Definition trigger = context;
   if (!view->TriggerItems().Contains(context)) {
     trigger = {};
-    for (const Definition& pending : TakePending(relation)) {
+    for (const Definition& pending : pendingContexts_.Take(relation)) {
       if (!view->TriggerItems().Contains(pending)) continue;
       trigger = pending;
       break;
@@ -117,7 +125,7 @@ CHARTKernel::Evaluation CHARTKernel::EvaluateRefresh(const Definition& relation,
     const RelationItemList items = view->RefreshItems();
     for (const Definition& item : items) Database()->SetRefresh(item, trigger);
   }
-  TakePending(relation);
+  pendingContexts_.Take(relation);
   operation.Release(kDone);
   return {KeysOf(view->TriggerItems()), settled};
 }
@@ -134,7 +142,7 @@ CHARTKernel::Evaluation CHARTKernel::EvaluateUnit(const Definition& relation,
   KernelOperation operation =
       context ? KernelOperation(*this, kUnit, {def, given}) : KernelOperation(*this, kUnit, {def});
   if (Database()->IsUnitInRecursion(relation)) {
-    KeepPending(relation, context);
+    pendingContexts_.Keep(relation, context);
     operation.Release(kReEntered);
     return {{}, false};
   }
@@ -148,7 +156,7 @@ CHARTKernel::Evaluation CHARTKernel::EvaluateUnit(const Definition& relation,
     }
   }
   ApplyUnit(*view, remembered, context);
-  TakePending(relation);
+  pendingContexts_.Take(relation);
   // Computed afresh at every execution.
   view->SetAttributesAvailable(false);
   Store(view);
@@ -168,7 +176,7 @@ void CHARTKernel::ApplyUnit(const UnitRelation& relation, const Definition& reme
     giveUnit();
     return;
   }
-  for (const Definition& pending : TakePending(relation.ObjectDefinition())) {
+  for (const Definition& pending : pendingContexts_.Take(relation.ObjectDefinition())) {
     if (!pending.IsSameAs(unit)) continue;
     const auto stored = Find<Variable>(unit);
     if (stored && stored->Available()) {
@@ -198,18 +206,6 @@ bool CHARTKernel::ComputeSpecifier(std::shared_ptr<Relation>& relation, ComputeO
   }
   computedBy(*internalModel_);
   return !frame.IsOutdated();
-}
-
-void CHARTKernel::KeepPending(const Definition& relation, const Definition& context) {
-  if (context) pendingContexts_[relation.Key()].push_back(context);
-}
-
-std::vector<Definition> CHARTKernel::TakePending(const Definition& relation) {
-  const auto found = pendingContexts_.find(relation.Key());
-  if (found == pendingContexts_.end()) return {};
-  auto contexts = std::move(found->second);
-  pendingContexts_.erase(found);
-  return contexts;
 }
 
 }  // namespace ZAFHartLib

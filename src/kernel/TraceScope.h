@@ -10,7 +10,6 @@
 
 #include "ddobjects/Command.h"
 #include "ddobjects/DefinitionList.h"
-#include "ddobjects/Variable.h"
 #include "interfaces/IDDDTMGUI.h"
 #include "interfaces/IDDDebugTracer.h"
 

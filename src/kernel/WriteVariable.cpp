@@ -30,6 +30,10 @@ bool IsInternal(const Definition& definition) {
   return definition.Name().starts_with(internal_names::kPrefix);
 }
 
+void MarkModified(IDDWorkerDB& database, const Definition& definition) {
+  if (!IsInternal(definition)) SetDataSetState(database, DataSetState::ValidModified);
+}
+
 }  // namespace
 
 void CHARTKernel::WriteVariable(const Definition& definition, const Variant& value) {
@@ -81,12 +85,8 @@ void CHARTKernel::WriteLocally(const std::shared_ptr<Variable>& variable, const 
   StoreNewValue(*variable, value);
   ExecuteRelations(definition);
   variable->SetIsChecked(true);
-  MarkModified(definition);
+  MarkModified(*Database(), definition);
   Show(Stored<Variable>(definition, kOperation));
-}
-
-void CHARTKernel::MarkModified(const Definition& definition) const {
-  if (!IsInternal(definition)) SetDataSetState(*Database(), DataSetState::ValidModified);
 }
 
 // A value given since waits to be written.
@@ -110,7 +110,7 @@ void CHARTKernel::EndDeviceWrite(const Definition& definition, const Variant& va
     ScopedValue wait(context_, Context{});
     Gui()->ResponseCodeError(status, command);
   }
-  MarkModified(definition);
+  MarkModified(*Database(), definition);
 }
 
 // The device's value stands, unless the user has given another one during the exchange.

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <functional>
 #include <map>
 #include <memory>
 #include <span>
@@ -17,6 +16,7 @@
 #include "platform/Export.h"
 #include "platform/Object.h"
 #include "types/LateBound.h"
+#include "workerdb/DatabaseSinks.h"
 #include "workerdb/DependencyTable.h"
 #include "workerdb/ISingleStorage.h"
 #include "workerdb/StateCounter.h"
@@ -165,18 +165,8 @@ class ZAF_API CDDWorkerDB : public platform::Object,
   // A variable that the object's attributes depend on is not available now; the next ReadObject
   // will find them stale.
   bool HasMissingDependency(const Definition& object) const;
-  // Called with every object whose attributes go stale through dependencies, and with every object
-  // that depends on a variable which has just lost its availability. It must not change the
-  // database. Empty for none.
-  using InvalidationSink = std::function<void(const Definition&)>;
-  void SetInvalidationSink(InvalidationSink sink) { invalidationSink_ = std::move(sink); }
-  // Called with every object that ReadObject is about to hand out. It may add dependencies. Empty
-  // for none.
-  using ReadSink = std::function<void(const Definition&)>;
-  void SetReadSink(ReadSink sink) { readSink_ = std::move(sink); }
-  // Who has set the sinks, so that a former holder does not clear those of its successor.
-  const void* SinkHolder() const { return sinkHolder_; }
-  void SetSinkHolder(const void* holder) { sinkHolder_ = holder; }
+  void SetSinks(DatabaseSinks sinks) { sinks_ = std::move(sinks); }
+  const void* SinkHolder() const { return sinks_.holder; }
 
   // --- engineering units ---
   // Runs the method "__ZAF__init_unit_table" through the kernel when the DD has it and it is valid.
@@ -211,19 +201,7 @@ class ZAF_API CDDWorkerDB : public platform::Object,
     std::shared_ptr<DDObject> object;
     Variable* variable;  // the object itself, nullptr for the other kinds
   };
-  // What a change of a variable may have changed besides the variable itself.
-  struct Marks {
-    Marks() = default;  // of a variable that is not stored
-    explicit Marks(const Variable& stored)
-        : available(stored.Available()),
-          missing(!stored.Available()),
-          toBeWritten(stored.ToBeWritten()),
-          unitSource(stored.UnitSource().Key()) {}
-    bool available = false;
-    bool missing = false;
-    bool toBeWritten = false;
-    ZAFHartTypes::TextKey unitSource;
-  };
+  struct Marks;
   enum class DeviceWrite : bool { No, Yes };
   enum class Propagation : bool { No, Yes };
 
@@ -240,11 +218,7 @@ class ZAF_API CDDWorkerDB : public platform::Object,
 
   // Every change of a stored variable that may touch its Marks goes through here.
   template <typename Change>
-  void Alter(Variable& stored, Change change) {
-    const Marks before(stored);
-    change(stored);
-    AfterChange(stored, before);
-  }
+  void Alter(Variable& stored, Change change);
   void AfterChange(Variable& stored, const Marks& before);
   void MissingChanged(ZAFHartTypes::TextKey variable, bool missing);
   void CountMark(VariableMark mark, ZAFHartTypes::TextKey variable, bool marked);
@@ -295,9 +269,7 @@ class ZAF_API CDDWorkerDB : public platform::Object,
   ZAFHartTypes::KeyedList<Variant> defaults_;
   NameSet staticAttributeNames_;
   DependencyTable dependencies_;
-  InvalidationSink invalidationSink_;
-  ReadSink readSink_;
-  const void* sinkHolder_ = nullptr;
+  DatabaseSinks sinks_;
   std::vector<std::weak_ptr<StateCounter>> counters_;
   std::unordered_map<ZAFHartTypes::TextKey, std::size_t, ZAFHartTypes::TextKeyHash> unitUsers_;
   UnitTable units_;

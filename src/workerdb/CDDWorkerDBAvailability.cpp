@@ -67,10 +67,10 @@ void CDDWorkerDB::AfterChange(Variable& stored, const Marks& before) {
 void CDDWorkerDB::MissingChanged(ZAFHartTypes::TextKey variable, bool missing) {
   if (dependencies_.IsEmpty()) return;
   dependencies_.VariableMissing(variable, missing);
-  if (!missing || !trackDependencies_ || !invalidationSink_) return;
+  if (!missing || !trackDependencies_ || !sinks_.invalidated) return;
   dependencies_.ForEachWithDependency(variable, [this](ZAFHartTypes::TextKey name) {
     if (const Entry* entry = objects_.Find(name)) {
-      invalidationSink_(entry->object->ObjectDefinition());
+      sinks_.invalidated(entry->object->ObjectDefinition());
     }
   });
 }

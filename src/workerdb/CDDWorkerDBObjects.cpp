@@ -19,7 +19,7 @@ std::shared_ptr<DDObject> CDDWorkerDB::ReadObject(const Definition& definition) 
     Alter(*entry->variable, [](Variable& variable) { variable.SetAvailable(false); });
   }
   UpdateStaleness(stored, definition);
-  if (readSink_) readSink_(stored.ObjectDefinition());
+  if (sinks_.read) sinks_.read(stored.ObjectDefinition());
   if (!entry->variable && stored.AttributesAvailable()) return entry->object;
   return stored.ComputeAttributes();
 }

@@ -22,7 +22,7 @@ void CDDWorkerDB::UpdateStaleness(DDObject& stored, const Definition& definition
 
 void CDDWorkerDB::MakeStale(DDObject& stored) {
   stored.SetAttributesAvailable(false);
-  if (invalidationSink_) invalidationSink_(stored.ObjectDefinition());
+  if (sinks_.invalidated) sinks_.invalidated(stored.ObjectDefinition());
 }
 
 void CDDWorkerDB::SetTrackDependencies(bool track) {

@@ -1,7 +1,5 @@
 #pragma once
 
-#include "ddobjects/Command.h"
-#include "ddobjects/Relations.h"
 #include "interfaces/InternalNames.h"
 #include "workerdb/CDDWorkerDB.h"
 
@@ -65,6 +63,27 @@ void CDDWorkerDB::ForOneOrAll(const Definition& definition, Action action) {
   } else if (View* view = Stored<View>(definition)) {
     action(*view);
   }
+}
+
+// What a change of a variable may have changed besides the variable itself.
+struct CDDWorkerDB::Marks {
+  Marks() = default;  // of a variable that is not stored
+  explicit Marks(const Variable& stored)
+      : available(stored.Available()),
+        missing(!stored.Available()),
+        toBeWritten(stored.ToBeWritten()),
+        unitSource(stored.UnitSource().Key()) {}
+  bool available = false;
+  bool missing = false;
+  bool toBeWritten = false;
+  ZAFHartTypes::TextKey unitSource;
+};
+
+template <typename Change>
+void CDDWorkerDB::Alter(Variable& stored, Change change) {
+  const Marks before(stored);
+  change(stored);
+  AfterChange(stored, before);
 }
 
 }  // namespace ZAFHartLib
