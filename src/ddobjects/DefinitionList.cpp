@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "platform/Export.h"
 #include "types/Failure.h"
 
 namespace ZAFHartTypes {
@@ -34,7 +33,7 @@ std::string DefinitionList::Describe(std::int16_t infoLevel) const {
   return text += ")";
 }
 
-ZAF_API bool operator==(const DefinitionList& a, const DefinitionList& b) {
+bool operator==(const DefinitionList& a, const DefinitionList& b) {
   return std::equal(a.begin(), a.end(), b.begin(), b.end(),
                     [](const Definition& x, const Definition& y) { return x.IsSameAs(y); });
 }

@@ -33,7 +33,7 @@ class ZAF_API DefinitionList {
   DefinitionList Copy() const { return *this; }
   std::string Describe(std::int16_t infoLevel) const;
 
-  friend bool operator==(const DefinitionList& a, const DefinitionList& b);
+  friend ZAF_API bool operator==(const DefinitionList& a, const DefinitionList& b);
 
  private:
   std::vector<Definition> definitions_;

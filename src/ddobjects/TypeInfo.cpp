@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "platform/Export.h"
 #include "types/Failure.h"
 
 namespace ZAFHartTypes {
@@ -44,7 +43,7 @@ const BitList& TypeInfo::BitItems() const {
   return bitItems_ ? *bitItems_ : kNoItems;
 }
 
-ZAF_API bool operator==(const TypeInfo& a, const TypeInfo& b) {
+bool operator==(const TypeInfo& a, const TypeInfo& b) {
   return a.typeCode_ == b.typeCode_ && a.size_ == b.size_ && a.maxEnumValue_ == b.maxEnumValue_ &&
          a.displayFormat_ == b.displayFormat_ && a.indexedArray_ == b.indexedArray_ &&
          a.scalingFactor_ == b.scalingFactor_ && a.ranges_ == b.ranges_ &&

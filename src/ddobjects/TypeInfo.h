@@ -62,7 +62,7 @@ class ZAF_API TypeInfo {
   void SetIndexedArray(std::shared_ptr<const ItemArray> array) { indexedArray_ = std::move(array); }
 
   // Same contents; of an item array the same object.
-  friend bool operator==(const TypeInfo& a, const TypeInfo& b);
+  friend ZAF_API bool operator==(const TypeInfo& a, const TypeInfo& b);
 
  private:
   struct Range {

@@ -3,7 +3,6 @@
 #include <array>
 #include <cmath>
 
-#include "platform/Export.h"
 #include "types/Failure.h"
 #include "types/NumberText.h"
 
@@ -73,7 +72,7 @@ std::string Variant::Describe() const {
   return text;
 }
 
-ZAF_API bool operator==(const Variant& a, const Variant& b) {
+bool operator==(const Variant& a, const Variant& b) {
   if (a.IsNull() || b.IsNull()) return a.IsNull() && b.IsNull();
   const bool bothEmpty = a.IsEmpty() && b.IsEmpty();
   if (bothEmpty) return true;

@@ -114,7 +114,7 @@ class ZAF_API Variant {
   // Same value: numbers by value across all numeric types (NaN equals nothing), texts by their
   // characters, a text and a number when the text converts to the number, empty equals "" and 0,
   // Null equals Null only, arrays element by element.
-  friend bool operator==(const Variant& a, const Variant& b);
+  friend ZAF_API bool operator==(const Variant& a, const Variant& b);
 
  private:
   std::variant<std::monostate, NullValue, std::int16_t, std::int32_t, float, double, Currency, Date,
