@@ -90,7 +90,7 @@ void AddDataSetCommands(CommandAdder& adder, Options& options) {
   compare.add_flag("--differences", options.differencesOnly, "Only what differs");
 }
 
-void AddCommands(CommandAdder& adder, Options& options) {
+void AddTransferCommands(CommandAdder& adder, Options& options) {
   CLI::App& upload = adder.Add(CommandKind::Upload, "upload", "Load the data set from the device");
   upload.add_flag("--discard", options.discard, "Give up pending changes without asking");
 
@@ -106,7 +106,9 @@ void AddCommands(CommandAdder& adder, Options& options) {
   read.add_option("names", options.names, "Variables; * and ? stand for other characters")
       ->required()
       ->type_name("NAME");
+}
 
+void AddViewCommands(CommandAdder& adder, Options& options) {
   CLI::App& list = adder.Add(CommandKind::List, "list",
                              "List the DTM's variables and pending changes, without the device");
   list.add_option("names", options.names, "Only these; * and ? stand for other characters")
@@ -134,7 +136,9 @@ void AddCommands(CommandAdder& adder, Options& options) {
           "Labels or DD names from the root menus down, also as one text with \"/\" between "
           "them; the beginning of a label will do (default: the root menus)")
       ->type_name("PATH");
+}
 
+void AddDialogueCommands(CommandAdder& adder, Options& options) {
   CLI::App& run = adder.Add(CommandKind::Run, "run", "Run a method of the DTM");
   run.add_option("method", options.path, "DD name, label, or path of menus as for menu")
       ->required()
@@ -152,8 +156,10 @@ void AddCommands(CommandAdder& adder, Options& options) {
       adder.Add(CommandKind::Browse, "browse", "Work with the DTM's menus on a screen");
   browse.add_flag("--pair", options.browsePair,
                   "The --dataset beside that of the device, as in pair and compare");
+}
 
-  // The program runs itself with this, to see whether a plug-in can be loaded at all.
+// The program runs itself with this, to see whether a plug-in can be loaded at all.
+void AddProbe(CommandAdder& adder, Options& options) {
   CLI::App& probe = adder.Add(CommandKind::ProbePlugin, "probe-plugin", "");
   probe.group("");
   probe.add_option("plugin", options.plugin)->required();
@@ -233,7 +239,10 @@ Options ParseCommandLine(int argc, char** argv) {
   AddOutputOptions(app, options);
   AddTraceOptions(app, options.trace);
   CommandAdder adder(app, options);
-  AddCommands(adder, options);
+  AddTransferCommands(adder, options);
+  AddViewCommands(adder, options);
+  AddDialogueCommands(adder, options);
+  AddProbe(adder, options);
   AddDataSetCommands(adder, options);
   AddLinkCommands(adder, options);
   AddServeCommand(adder, options);
