@@ -2,6 +2,7 @@
 
 #include "hart/HexText.h"
 #include "links/CapturingLink.h"
+#include "links/IpPacket.h"
 #include "links/PcapFile.h"
 #include "linksim/EchoLink.h"
 #include "platform/Platform.h"

@@ -4,7 +4,6 @@
 
 #include "hartframe/Report.h"
 #include "interfaces/IDDErrorHandler.h"
-#include "types/TextKey.h"
 
 namespace hartframe {
 

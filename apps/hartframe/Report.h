@@ -3,7 +3,6 @@
 #include <span>
 #include <string>
 #include <string_view>
-#include <vector>
 
 #include "hartframe/ExitCode.h"
 #include "hartframe/MenuView.h"

@@ -11,7 +11,6 @@
 #include "platform/Platform.h"
 #include "types/Failure.h"
 #include "types/NumberText.h"
-#include "types/TextKey.h"
 #include "types/Utf8.h"
 
 namespace hartframe {

@@ -2,7 +2,6 @@
 
 #include <memory>
 #include <string>
-#include <vector>
 
 #include "ddobjects/Variable.h"
 #include "hartframe/Speech.h"

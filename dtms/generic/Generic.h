@@ -2,7 +2,6 @@
 
 #include "dtmkit/DataModelBase.h"
 #include "dtmkit/KernelInformationBase.h"
-#include "platform/ComponentClasses.h"
 
 // A DTM for any HART device, without knowledge of its type: what the universal commands of HART 5,
 // 6 and 7 and the common practice commands tell and take.

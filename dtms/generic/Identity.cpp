@@ -1,5 +1,4 @@
 #include "common/HartResponseCodes.h"
-#include "common/HartTables.h"
 #include "generic/Revision.h"
 
 // Layouts are those of the HART universal commands (TS20127) of revisions 5, 6 and 7.

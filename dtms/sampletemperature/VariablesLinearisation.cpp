@@ -1,4 +1,3 @@
-#include "common/HartTables.h"
 #include "sampletemperature/Description.h"
 #include "sampletemperature/LinearisationPoint.h"
 

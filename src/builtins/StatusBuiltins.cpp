@@ -2,7 +2,6 @@
 
 #include "builtins/CDDBuiltinLib.h"
 #include "ddobjects/Command.h"
-#include "resources/ResText.h"
 #include "types/Utf8.h"
 
 namespace ZAFHartLib {

@@ -4,7 +4,6 @@
 #include <string>
 
 #include "ddobjects/Definition.h"
-#include "ddobjects/Variable.h"
 #include "interfaces/ComponentBase.h"
 
 namespace ZAFHartLib {

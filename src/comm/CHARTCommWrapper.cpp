@@ -11,8 +11,6 @@
 #include "hart/LinkFrame.h"
 #include "hart/StatusBytes.h"
 #include "interfaces/InternalNames.h"
-#include "resources/ResText.h"
-#include "resources/enumDDResourceIDs.h"
 #include "text/LangText.h"
 #include "types/Failure.h"
 

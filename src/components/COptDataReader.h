@@ -1,10 +1,7 @@
 #pragma once
 
-#include <functional>
-#include <memory>
 #include <string>
 #include <string_view>
-#include <vector>
 
 #include "kernel/ICommandOptimization.h"
 #include "platform/Object.h"

@@ -6,8 +6,8 @@
 #include <utility>
 #include <vector>
 
-#include "ddobjects/Definition.h"
 #include "types/Failure.h"
+#include "types/TextKey.h"
 
 namespace ZAFHartTypes {
 

@@ -1,7 +1,5 @@
 #include "gui/ControlList.h"
 
-#include <algorithm>
-
 namespace ZAFHartLib {
 
 using ZAFHartTypes::IDDDTMGUI;

@@ -4,7 +4,6 @@
 
 #include "interfaces/IDDComponents.h"
 #include "platform/Export.h"
-#include "types/Failure.h"
 
 namespace ZAFHartTypes {
 

@@ -7,7 +7,6 @@
 
 #include "ddobjects/ByteBuffer.h"
 #include "ddobjects/Command.h"
-#include "interfaces/Codes.h"
 #include "interfaces/ILink.h"
 #include "platform/Export.h"
 

@@ -8,7 +8,6 @@
 
 #include "ddobjects/DDObject.h"
 #include "ddobjects/DataItem.h"
-#include "ddobjects/Variable.h"
 #include "platform/Export.h"
 #include "types/Variant.h"
 

@@ -1,7 +1,5 @@
 #include "links/HartIpOptions.h"
 
-#include <string>
-
 #include "links/LinkSettings.h"
 #include "platform/Failure.h"
 

@@ -4,6 +4,7 @@
 #include <chrono>
 #include <utility>
 
+#include "links/IpPacket.h"
 #include "platform/Failure.h"
 #include "platform/Platform.h"
 

@@ -5,7 +5,6 @@
 #include <string>
 #include <vector>
 
-#include "links/IpPacket.h"
 #include "links/PacketObserver.h"
 #include "platform/Export.h"
 

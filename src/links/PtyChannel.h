@@ -1,7 +1,5 @@
 #pragma once
 
-#include <vector>
-
 #include "links/ByteChannel.h"
 #include "platform/Export.h"
 #include "platform/MessageLoop.h"

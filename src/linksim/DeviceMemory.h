@@ -3,11 +3,9 @@
 #include <cstddef>
 #include <optional>
 #include <string>
-#include <string_view>
 
-#include "ddobjects/DataItem.h"
+#include "ddobjects/Codes.h"
 #include "ddobjects/KeyedList.h"
-#include "ddobjects/TypeInfo.h"
 #include "platform/Export.h"
 #include "types/Variant.h"
 

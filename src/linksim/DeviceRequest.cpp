@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "ddobjects/Variable.h"
+#include "linksim/ItemCoding.h"
 
 namespace HartLinkSim {
 

@@ -3,7 +3,6 @@
 #include <vector>
 
 #include "interfaces/ILink.h"
-#include "linksim/ItemCoding.h"
 
 namespace HartLinkSim {
 

@@ -4,10 +4,10 @@
 
 #include "ddobjects/Transaction.h"
 #include "ddobjects/Variable.h"
-#include "hart/HexText.h"
 #include "hart/LinkFrame.h"
 #include "hart/StatusBytes.h"
 #include "linksim/DeviceRequest.h"
+#include "linksim/ItemCoding.h"
 #include "linksim/ValueText.h"
 #include "platform/Platform.h"
 #include "types/Failure.h"

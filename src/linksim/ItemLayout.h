@@ -6,7 +6,6 @@
 #include <vector>
 
 #include "ddobjects/DataItem.h"
-#include "ddobjects/TypeInfo.h"
 
 namespace HartLinkSim {
 

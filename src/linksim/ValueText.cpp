@@ -7,8 +7,6 @@
 #include <optional>
 
 #include "hart/DateText.h"
-#include "hart/HexText.h"
-#include "hart/Numbers.h"
 #include "linksim/ItemLayout.h"
 #include "types/Failure.h"
 

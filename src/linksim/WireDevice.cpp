@@ -4,7 +4,7 @@
 
 #include "hart/HexText.h"
 #include "hart/StatusBytes.h"
-#include "hart/Texts.h"
+#include "linksim/FaultyReply.h"
 #include "linksim/WireIdentity.h"
 #include "types/Failure.h"
 

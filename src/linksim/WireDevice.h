@@ -9,7 +9,7 @@
 #include "hart/LinkFrame.h"
 #include "linksim/CommandCatalogue.h"
 #include "linksim/EmulatedDevice.h"
-#include "linksim/FaultyReply.h"
+#include "linksim/Faults.h"
 #include "platform/Export.h"
 
 namespace HartLinkSim {

@@ -9,7 +9,6 @@
 #include <vector>
 
 #include "platform/Export.h"
-#include "platform/Failure.h"
 #include "platform/Object.h"
 
 namespace platform {

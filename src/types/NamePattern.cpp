@@ -1,7 +1,5 @@
 #include "types/NamePattern.h"
 
-#include <string>
-
 #include "types/TextKey.h"
 
 namespace ZAFHartTypes {

@@ -3,7 +3,6 @@
 #include <filesystem>
 #include <fstream>
 #include <iosfwd>
-#include <memory>
 
 #include "debugger/Terminal.h"
 

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "hartframe/MethodEnd.h"
-#include "hartframe/browse/ComparePage.h"
 #include "hartframe/browse/DataSetActions.h"
 #include "hartframe/browse/Screen.h"
 #include "hartframe/browse/Side.h"

@@ -2,6 +2,7 @@
 
 #include "hartframe/browse/BrowseTexts.h"
 #include "hartframe/browse/Browser.h"
+#include "hartframe/browse/ComparePage.h"
 #include "hartframe/browse/PairScreenTexts.h"
 
 namespace hartframe::browse {

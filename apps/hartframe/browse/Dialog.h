@@ -1,7 +1,6 @@
 #pragma once
 
 #include <string>
-#include <vector>
 
 #include "hartframe/Speech.h"
 #include "hartframe/browse/Key.h"

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <optional>
-
 #include "hartframe/browse/Page.h"
 #include "hartframe/browse/Row.h"
 #include "hartframe/browse/Screen.h"

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "hartframe/browse/ListState.h"
+#include "hartframe/browse/Picture.h"
 #include "hartframe/browse/Row.h"
 
 namespace hartframe::browse {

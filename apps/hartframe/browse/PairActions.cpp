@@ -3,7 +3,6 @@
 #include "ddobjects/Method.h"
 #include "hartframe/MenuPath.h"
 #include "hartframe/browse/BrowseTexts.h"
-#include "hartframe/browse/Dialogs.h"
 #include "hartframe/browse/PairScreenTexts.h"
 #include "interfaces/InternalNames.h"
 

@@ -4,7 +4,6 @@
 
 #include "hartframe/MenuView.h"
 #include "hartframe/browse/Page.h"
-#include "hartframe/browse/Picture.h"
 #include "hartframe/dataset/DataSetPair.h"
 
 namespace hartframe::browse {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "hartframe/browse/Picture.h"
 #include "hartframe/browse/Row.h"
 
 namespace hartframe::browse {

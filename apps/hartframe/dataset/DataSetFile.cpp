@@ -1,7 +1,5 @@
 #include "hartframe/dataset/DataSetFile.h"
 
-#include <charconv>
-
 #include "hartframe/EscapedText.h"
 #include "hartframe/ExitCode.h"
 #include "hartframe/dataset/DataSetReader.h"

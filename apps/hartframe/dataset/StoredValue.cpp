@@ -1,6 +1,5 @@
 #include "hartframe/dataset/StoredValue.h"
 
-#include <algorithm>
 #include <array>
 #include <bit>
 #include <charconv>

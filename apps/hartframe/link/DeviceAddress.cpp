@@ -1,6 +1,5 @@
 #include "hartframe/link/DeviceAddress.h"
 
-#include <algorithm>
 #include <charconv>
 #include <string_view>
 

@@ -1,7 +1,5 @@
 #include "hartframe/link/DeviceScan.h"
 
-#include <span>
-
 #include "comm/ConnectionTexts.h"
 #include "hart/Numbers.h"
 #include "hart/StatusBytes.h"

@@ -1,7 +1,6 @@
 #include "hartframe/Commands.h"
 #include "hartframe/browse/Browser.h"
 #include "hartframe/browse/curses/CursesTerminal.h"
-#include "hartframe/dataset/DataSetTexts.h"
 #include "hartframe/dataset/WorkOnDataSet.h"
 
 namespace hartframe {
