@@ -1,5 +1,5 @@
-# What `cmake --install` lays down: libraries, public headers, hartframe, the plug-ins of the tree,
-# and how CMake and pkg-config find them. It may be moved as a whole afterwards.
+# What `cmake --install` lays down: libraries, public headers, hartframe with its manual page, the
+# plug-ins of the tree, and how CMake and pkg-config find them. It may be moved as a whole afterwards.
 include(CMakePackageConfigHelpers)
 
 # Where users begin. What these headers include is installed as well.
@@ -42,6 +42,18 @@ install(TARGETS ZAFHartLib zaf_links hartframe EXPORT ZAFHartLibTargets INCLUDES
 install(TARGETS sampletemperature generic zafhartdebugger DESTINATION ${ZAF_DTM_INSTALL_FOLDER})
 file(GLOB data CONFIGURE_DEPENDS dtms/*/*.ini dtms/*/*.txt)
 install(FILES ${data} DESTINATION ${ZAF_DTM_INSTALL_FOLDER})
+
+# hartframe itself writes its manual page and what completes its command line in bash.
+if(NOT CMAKE_CROSSCOMPILING)
+  add_custom_command(OUTPUT hartframe.1 hartframe.bash
+                     COMMAND hartframe print-man-page >hartframe.1
+                     COMMAND hartframe print-bash-completion >hartframe.bash
+                     WORKING_DIRECTORY ${PROJECT_BINARY_DIR} DEPENDS hartframe VERBATIM)
+  add_custom_target(zaf_manual ALL DEPENDS ${PROJECT_BINARY_DIR}/hartframe.1)
+  install(FILES ${PROJECT_BINARY_DIR}/hartframe.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
+  install(FILES ${PROJECT_BINARY_DIR}/hartframe.bash RENAME hartframe
+          DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions)
+endif()
 
 set(package_folder ${CMAKE_INSTALL_LIBDIR}/cmake/ZAFHartLib)
 write_basic_package_version_file(${PROJECT_BINARY_DIR}/ZAFHartLibConfigVersion.cmake

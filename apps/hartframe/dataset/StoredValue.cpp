@@ -86,6 +86,15 @@ std::optional<Variant> ReadDecimal(std::string_view text) {
   return Variant(Decimal{*mantissa, static_cast<std::uint8_t>(scale)});
 }
 
+// Nothing for a serial that no calendar date has.
+std::optional<Variant> ReadDate(std::string_view text) {
+  const auto serial = ReadFloat<double>(text);
+  if (!serial) return std::nullopt;
+  const Variant date(Date{*serial});
+  if (!ZAFHartTypes::IgnoreFailures([&] { static_cast<void>(date.ToDate()); })) return std::nullopt;
+  return date;
+}
+
 std::optional<Variant> ReadBoolean(std::string_view text) {
   if (text == "true") return Variant(true);
   if (text == "false") return Variant(false);
@@ -135,8 +144,7 @@ constexpr std::array kValueForms{
                 return Wrapped<std::int64_t, Currency>(ReadDigits<std::int64_t>(text));
               }},
     ValueForm{VariantType::Date, "date",
-              [](const Variant& value) { return FloatText(value.ToDate().serial); },
-              [](std::string_view text) { return Wrapped<double, Date>(ReadFloat<double>(text)); }},
+              [](const Variant& value) { return FloatText(value.ToDate().serial); }, ReadDate},
     ValueForm{VariantType::String, "text",
               [](const Variant& value) { return Escaped(value.ToText()); }, ReadText},
     ValueForm{
