@@ -1,6 +1,7 @@
 #include "hartframe/DataSet.h"
 
 #include <algorithm>
+#include <iterator>
 
 #include "ddobjects/Menu.h"
 
@@ -46,6 +47,18 @@ void Count(Loaded& loaded) {
   }
 }
 
+bool LacksValue(const Variable& variable) {
+  return variable.Validity() && !variable.Available() && !variable.ToBeWritten() &&
+         !variable.Attributes().IsLibraryHeld() && variable.CheckHandling(AccessMode::Read);
+}
+
+std::vector<VariableRow> ConfigurationRows(const Loaded& loaded) {
+  std::vector<VariableRow> rows;
+  std::ranges::copy_if(loaded.rows, std::back_inserter(rows),
+                       [](const VariableRow& row) { return IsConfiguration(*row.variable); });
+  return rows;
+}
+
 bool HasTrouble(std::span<const VariableRow> rows, Trouble trouble) {
   return std::any_of(rows.begin(), rows.end(), [trouble](const VariableRow& row) {
     return TroubleOf(*row.variable) == trouble;
@@ -68,6 +81,7 @@ Loaded LoadDataSet(Session& session) {
   loaded.rows = MenuRows(session, menu);
   Count(loaded);
   loaded.code = finished ? CodeOfTroubles(loaded.rows) : ExitCode::Interrupted;
+  if (loaded.code == ExitCode::Ok && loaded.notAttempted > 0) loaded.code = ExitCode::Internal;
   return loaded;
 }
 
@@ -90,7 +104,20 @@ void TellLoaded(Session& session, const Loaded& loaded) {
   if (loaded.code == ExitCode::Interrupted) {
     session.Tell().Problem("interrupted",
                            say(Text::InterruptedLeft, {std::to_string(loaded.notAttempted)}));
+  } else {
+    TellUnreadable(session, ConfigurationRows(loaded));
   }
+}
+
+ExitCode TellUnreadable(Session& session, std::span<const VariableRow> read) {
+  std::string names;
+  for (const VariableRow& row : read) {
+    if (LacksValue(*row.variable))
+      names += (names.empty() ? "" : ", ") + row.variable->Definition().Name();
+  }
+  if (names.empty()) return ExitCode::Ok;
+  session.Tell().Problem("unreadable", session.Say()(Text::Unreadable, {names}));
+  return ExitCode::Internal;
 }
 
 ExitCode CodeOfTroubles(std::span<const VariableRow> rows) {

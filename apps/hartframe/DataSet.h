@@ -13,7 +13,7 @@ struct Loaded {
   std::size_t loaded = 0;
   std::size_t failed = 0;        // read, but not with a value from the device
   std::size_t notValid = 0;      // not valid in this configuration
-  std::size_t notAttempted = 0;  // left by Ctrl-C
+  std::size_t notAttempted = 0;  // left by Ctrl-C, or unreadable as described
   ExitCode code = ExitCode::Ok;
   bool IsComplete() const { return code == ExitCode::Ok; }
   // The device gave not one value, and not because the user has ended it.
@@ -26,6 +26,10 @@ Loaded LoadDataSet(Session& session);
 Loaded HeldDataSet(Session& session);
 // Says how it ended, in sentences; of a fruitless one only why.
 void TellLoaded(Session& session, const Loaded& loaded);
+
+// Names the variables that were read and still have no value, while nothing is wrong with the device:
+// their description does not let the command be carried out. ExitCode::Internal when there are any.
+ExitCode TellUnreadable(Session& session, std::span<const VariableRow> read);
 
 // The worst trouble of the rows, and a sentence about each kind there is.
 ExitCode CodeOfTroubles(std::span<const VariableRow> rows);

@@ -61,6 +61,14 @@ inline constexpr const char* kOfOutcomes[] = {
     "Interrupted; {0} not attempted.|de|Abgebrochen; {0} nicht bearbeitet.|fr|Interrompu ; {0} non "
     "{0:traitée/traitées}.|it|Interrotto; {0} non {0:trattata/trattate}.|es|Interrumpido; {0} sin "
     "tratar.|kt|Chuudan; {0} wa mi-shori.",
+    "Not read: {0}. Their commands cannot be carried out as the DTM describes them; --trace 1 "
+    "tells where.|de|Nicht gelesen: {0}. Ihre Kommandos lassen sich nicht so ausführen, wie der "
+    "DTM sie beschreibt; --trace 1 sagt, wo.|fr|Non lu : {0}. Leurs commandes ne peuvent pas être "
+    "exécutées comme le DTM les décrit ; --trace 1 dit où.|it|Non letto: {0}. I loro comandi non "
+    "si possono eseguire come il DTM li descrive; --trace 1 dice dove.|es|No leído: {0}. Sus "
+    "comandos no se pueden ejecutar como los describe el DTM; --trace 1 dice "
+    "dónde.|kt|Mi-yomitori: {0}. DTM no kijutsu no toori ni komando o jikkou dekimasen; basho wa "
+    "--trace 1 de wakarimasu.",
     "The device does not answer.|de|Das Gerät antwortet nicht.|fr|L'appareil ne répond pas.|it|Il "
     "dispositivo non risponde.|es|El dispositivo no responde.|kt|Kiki ga outou shimasen.",
     "The communication with the device is disturbed.|de|Die Kommunikation mit dem Gerät ist "

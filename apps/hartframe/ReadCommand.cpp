@@ -17,7 +17,11 @@ ExitCode RunRead(Session& session) {
   });
   session.Tell().Variables(rows);
   TellTroubles(session, reader.Rows());
-  if (finished) return CodeOfTroubles(reader.Rows());
+  if (finished) {
+    const ExitCode unreadable = TellUnreadable(session, reader.Rows());
+    const ExitCode trouble = CodeOfTroubles(reader.Rows());
+    return trouble == ExitCode::Ok ? unreadable : trouble;
+  }
   session.Tell().Problem(
       "interrupted",
       session.Say()(Text::InterruptedLeft, {std::to_string(definitions.size() - rows.size())}));

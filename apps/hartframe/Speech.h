@@ -38,6 +38,7 @@ enum class Text {
   PendingKept,
   Interrupted,
   InterruptedLeft,
+  Unreadable,
   NoDevice,
   DisturbedDevice,
   RefusedByDevice,
