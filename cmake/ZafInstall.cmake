@@ -46,8 +46,8 @@ install(FILES ${data} DESTINATION ${ZAF_DTM_INSTALL_FOLDER})
 # hartframe itself writes its manual page and what completes its command line in bash.
 if(NOT CMAKE_CROSSCOMPILING)
   add_custom_command(OUTPUT hartframe.1 hartframe.bash
-                     COMMAND hartframe print-man-page >hartframe.1
-                     COMMAND hartframe print-bash-completion >hartframe.bash
+                     COMMAND hartframe print-man-page > hartframe.1
+                     COMMAND hartframe print-bash-completion > hartframe.bash
                      WORKING_DIRECTORY ${PROJECT_BINARY_DIR} DEPENDS hartframe VERBATIM)
   add_custom_target(zaf_manual ALL DEPENDS ${PROJECT_BINARY_DIR}/hartframe.1)
   install(FILES ${PROJECT_BINARY_DIR}/hartframe.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)

@@ -56,15 +56,12 @@ void CDDTestCommWrapper::LearnLongAddress() {
 
 void CDDTestCommWrapper::Learn(ErrorSeverity severity) {
   if (!LongAddress().empty()) return;
-  const bool isExecuted = ExecuteCommand0();
-  if (!LongAddress().empty()) return;
-  const auto code = static_cast<std::uint8_t>(LastStatus().responseCode);
-  const bool isRefused = isExecuted && !hart::IsCarriedOut(code);
-  ShowConnectionError(severity, isRefused ? code : std::uint8_t{hart::kSuccess});
+  ExecuteCommand0();
+  if (LongAddress().empty()) ShowConnectionError(severity);
 }
 
-bool CDDTestCommWrapper::ExecuteCommand0() {
-  if (isLearning_) return false;
+void CDDTestCommWrapper::ExecuteCommand0() {
+  if (isLearning_) return;
   struct Learning {
     bool& flag;
     explicit Learning(bool& learning) : flag(learning) { flag = true; }
@@ -75,7 +72,6 @@ bool CDDTestCommWrapper::ExecuteCommand0() {
   const Definition definition = FindCommand(Model(), UniversalCommand::ReadUniqueIdentifier);
   const auto command = definition ? kernel->GetSafeCommand(definition) : nullptr;
   if (command) kernel->ExecuteCommand(command->CommandCopy(), 0);
-  return command != nullptr;
 }
 
 // Takes the long address out of the reply to command 0. A reply that is too short for an identity

@@ -28,8 +28,8 @@ class CDDTestCommWrapper : public CommWrapper {
   // Executes command 0 through the kernel; a long address that this does not tell is shown as an
   // error. Without effect when it is known.
   void Learn(ErrorSeverity severity);
-  // False, without effect, when it is going on already and when the DTM has no command 0.
-  bool ExecuteCommand0();
+  // Without effect while it is going on already.
+  void ExecuteCommand0();
 
   bool useHartEmulator_ = true;
   bool isLearning_ = false;

@@ -129,8 +129,7 @@ class CommWrapper : public platform::Object,
   // Ends the exchanges in the background as Cancelled; their completion goes on.
   void CancelBackground();
   void StoreOnlineState(ZAFHartTypes::OnlineMode mode, ZAFHartTypes::DtmOnlineState state);
-  // `refusal` is the response code that command 0 was refused with; 0 for none.
-  void ShowConnectionError(ErrorSeverity severity, std::uint8_t refusal);
+  void ShowConnectionError(ErrorSeverity severity);
 
  private:
   struct UnderWay {

@@ -69,11 +69,8 @@ void CommWrapper::SetAddressInformation(std::int32_t pollingAddress, const std::
   longAddress_ = longAddress;
 }
 
-void CommWrapper::ShowConnectionError(ErrorSeverity severity, std::uint8_t refusal) {
-  ZAFHartTypes::PromptValues values;
-  if (refusal != 0) values.Set("s1", static_cast<std::int32_t>(refusal));
-  const std::int32_t id = refusal != 0 ? idErrConnectionRefused : idErrNoConnection;
-  if (!ShowError(*model_.Gui(), severity, id, values)) return;
+void CommWrapper::ShowConnectionError(ErrorSeverity severity) {
+  if (!ShowError(*model_.Gui(), severity, idErrNoConnection)) return;
   lastResult_ = static_cast<std::int32_t>(ZAFHartTypes::CommResult::NotInDD);
 }
 

@@ -8,17 +8,6 @@ inline constexpr const char* kNoConnection =
     "could not establish a connection|de|Verbindung konnte nicht aufgebaut werden|fr|la connexion "
     "n'a pas pu être établie|it|impossibile stabilire una connessione|es|no se pudo establecer la "
     "conexión|kt|setsuzoku dekimasen deshita";
-inline constexpr const char* kConnectionRefused =
-    "could not establish a connection: the device refuses command 0 with response code %{s1}"
-    "|de|Verbindung konnte nicht aufgebaut werden: das Gerät verweigert Kommando 0 mit dem "
-    "Antwortcode %{s1}"
-    "|fr|la connexion n'a pas pu être établie : l'appareil refuse la commande 0 avec le code de "
-    "réponse %{s1}"
-    "|it|impossibile stabilire una connessione: il dispositivo rifiuta il comando 0 con il codice "
-    "di risposta %{s1}"
-    "|es|no se pudo establecer la conexión: el dispositivo rechaza el comando 0 con el código de "
-    "respuesta %{s1}"
-    "|kt|setsuzoku dekimasen deshita: kiki ga komando 0 o outou koodo %{s1} de kyohi shimashita";
 
 // States of the connection.
 inline constexpr const char* kNotConnected =

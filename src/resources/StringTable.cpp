@@ -197,7 +197,6 @@ constexpr auto kTable = std::to_array<StringResource>({
     {idErrDisconnected, strings::kDisconnected},
     {idErrIdentityRefused, strings::kIdentityRefused},
     {idErrIdentityDamaged, strings::kIdentityDamaged},
-    {idErrConnectionRefused, strings::kConnectionRefused},
     {idWaiting, strings::kWaiting},
 
     {idTitleError, strings::kTitleError},

@@ -142,7 +142,6 @@ enum enumDDResourceIDs : std::int32_t {
   idErrDisconnected = 3024,
   idErrIdentityRefused = 3025,
   idErrIdentityDamaged = 3026,
-  idErrConnectionRefused = 3027,
   idWaiting = 3100,
 
   idTitleError = 11001,
