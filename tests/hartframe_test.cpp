@@ -173,7 +173,7 @@ TEST_F(Hartframe, ADeviceThatRefusesToSayWhoItIsIsTold) {
   const Result refused = Run({"upload", "--fault", "response:7"});
   EXPECT_EQ(refused.code, 3);
   EXPECT_EQ(refused.out, "") << "no values that nobody has read";
-  EXPECT_THAT(refused.error, HasSubstr("refuses command 0 with response code 7"));
+  EXPECT_THAT(refused.error, HasSubstr("The device has refused a request."));
 }
 
 TEST_F(Hartframe, ADeviceIsFoundAtItsPollingAddress) {

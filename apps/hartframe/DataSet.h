@@ -27,8 +27,9 @@ Loaded HeldDataSet(Session& session);
 // Says how it ended, in sentences; of a fruitless one only why.
 void TellLoaded(Session& session, const Loaded& loaded);
 
-// Names the variables that were read and still have no value, while nothing is wrong with the device:
-// their description does not let the command be carried out. ExitCode::Internal when there are any.
+// Names the variables that were read and still have no value, while nothing is wrong with the
+// device: their description does not let the command be carried out. ExitCode::Internal when there
+// are any.
 ExitCode TellUnreadable(Session& session, std::span<const VariableRow> read);
 
 // The worst trouble of the rows, and a sentence about each kind there is.
