@@ -232,7 +232,7 @@ TEST(MethodBody, IsEndedOnEveryWayOut) {
     kernel->SetComponentModel(instance.components);
     kernel->SetDataModel(instance.model);
     instance.components->kernel = kernel;
-    const auto run = [&](bool inAbort) {
+    const auto run = [&, raised = raised](bool inAbort) {
       auto builtins = std::make_shared<ZAFHartLib::CDDBuiltinLib>();
       builtins->SetComponentModel(instance.components);
       instance.components->builtins = std::move(builtins);

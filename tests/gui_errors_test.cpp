@@ -117,8 +117,8 @@ TEST_F(ErrorsTest, CyclicEvaluationIsTracedAndRaised) {
   for (const auto& [index, text] :
        {std::pair(ItemIndex::CyclicVariable, "cyclic evaluation of variable"),
         {ItemIndex::CyclicCommand, "cyclic evaluation of command"}}) {
-    const Failure failure =
-        support::FailureOf([&] { gui->ObjectError(MakeObject<Command>("c"), index); });
+    const Failure failure = support::FailureOf(
+        [&, index = index] { gui->ObjectError(MakeObject<Command>("c"), index); });
     EXPECT_EQ(failure.Number(), ErrorNumber::Unexpected);
     EXPECT_EQ(failure.Description(), std::string("c:\r\n") + text);
     EXPECT_THAT(tracer->TakeCalls(), testing::SizeIs(2));

@@ -16,7 +16,7 @@ struct FaultCase {
   int writeCode;
   std::string message;  // German, of either
   std::size_t pending;  // of two changes
-  friend void PrintTo(const FaultCase& fault, std::ostream* out) { *out << fault.fault; }
+  friend void PrintTo(const FaultCase& one, std::ostream* out) { *out << one.fault; }
 };
 
 class HartframeFault : public Hartframe, public testing::WithParamInterface<FaultCase> {};

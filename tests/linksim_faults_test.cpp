@@ -33,7 +33,7 @@ TEST(Faults, WrongTextsAreExplained) {
       {"comm-error:0xG", "1 to 255"},   {"latency:-1", "0 to 600000"},
       {"response:5:", "is no number"}};
   for (const auto& [text, reason] : cases) {
-    const std::string told = support::FailureOf([&] { ParseFault(text); }).Description();
+    const std::string told = support::FailureOf([&text = text] { ParseFault(text); }).Description();
     EXPECT_NE(told.find(reason), std::string::npos) << told;
     EXPECT_NE(told.find("wrong-command[:COUNT]"), std::string::npos);
   }
