@@ -4,6 +4,7 @@
 #include <iterator>
 
 #include "ddobjects/Menu.h"
+#include "hartframe/Reading.h"
 
 namespace hartframe {
 
@@ -45,11 +46,6 @@ void Count(Loaded& loaded) {
     else
       ++loaded.loaded;
   }
-}
-
-bool LacksValue(const Variable& variable) {
-  return variable.Validity() && !variable.Available() && !variable.ToBeWritten() &&
-         !variable.Attributes().IsLibraryHeld() && variable.CheckHandling(AccessMode::Read);
 }
 
 std::vector<VariableRow> ConfigurationRows(const Loaded& loaded) {
@@ -112,7 +108,7 @@ void TellLoaded(Session& session, const Loaded& loaded) {
 ExitCode TellUnreadable(Session& session, std::span<const VariableRow> read) {
   std::string names;
   for (const VariableRow& row : read) {
-    if (LacksValue(*row.variable))
+    if (IsUnread(*row.variable))
       names += (names.empty() ? "" : ", ") + row.variable->Definition().Name();
   }
   if (names.empty()) return ExitCode::Ok;

@@ -14,12 +14,12 @@ void ComputeAttributes(ZAFHartTypes::IDDKernel& kernel, const Definition& defini
   if (definition.Kind() == ObjectKind::Method) kernel.GetMethod(definition);
 }
 
+}  // namespace
+
 bool IsUnread(const Variable& variable) {
   return variable.Validity() && !variable.Available() && !variable.ToBeWritten() &&
          !variable.Attributes().IsLibraryHeld() && variable.CheckHandling(AccessMode::Read);
 }
-
-}  // namespace
 
 std::vector<Definition> UnreadConditions(Session& session, const Definition& object) {
   const auto& database = dynamic_cast<ZAFHartLib::CDDWorkerDB&>(session.Database());

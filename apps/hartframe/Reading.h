@@ -9,6 +9,10 @@
 
 namespace hartframe {
 
+// A valid variable that can be read from the device, and has neither its value nor a pending
+// change.
+bool IsUnread(const ZAFHartTypes::Variable& variable);
+
 // The variables that decide about the attributes of an object (its validity, limits, unit) and can
 // be read, but were not.
 std::vector<ZAFHartTypes::Definition> UnreadConditions(Session& session,
