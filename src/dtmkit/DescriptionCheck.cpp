@@ -1,12 +1,13 @@
 #include "dtmkit/DescriptionCheck.h"
 
+#include "hart/Numbers.h"
 #include "interfaces/InternalNames.h"
 #include "types/Failure.h"
 
 namespace ZAFHartTypes::dtmkit {
 namespace {
 
-constexpr std::int32_t kMostIntegerBytes = 4;
+constexpr auto kMostIntegerBytes = static_cast<std::int32_t>(hart::kMaxIntegerSize);
 
 std::string Named(const Definition& definition) {
   return std::string(KindWord(definition.Kind())) + " \"" + definition.Name() + "\"";
