@@ -1,7 +1,7 @@
 // The offline data set on disk beside the online one of a device.
-#include "hartframe/Changes.h"
-#include "hartframe/TextReport.h"
+#include "hartframe/changes/Changes.h"
 #include "hartframe/dataset/DataSetPair.h"
+#include "hartframe/report/TextReport.h"
 #include "interfaces/InternalNames.h"
 #include "platform/Platform.h"
 #include "support/HartframeTest.h"

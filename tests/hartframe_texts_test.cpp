@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "debugger/TraceLanguage.h"
-#include "hartframe/ValueText.h"
+#include "hartframe/values/ValueText.h"
 
 namespace {
 

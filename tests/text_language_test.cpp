@@ -1,8 +1,11 @@
 #include <gtest/gtest.h>
 
+#include "components/LibraryClasses.h"
+#include "platform/ComponentClasses.h"
 #include "resources/ResText.h"
 #include "text/LangText.h"
 #include "text/TextHelpers.h"
+#include "text/Tools.h"
 #include "types/Failure.h"
 
 namespace ZAFHartLib {
@@ -63,6 +66,32 @@ TEST(TextHelpersTest, FiltersControlCharacters) {
     EXPECT_EQ(FilterCtrlChars(text), entry.expected);
     EXPECT_EQ(text, entry.left);
   }
+}
+
+// What a component sees that creates its helper by class name.
+TEST(ToolsTest, GivesTheTextFunctionsByClassName) {
+  platform::ComponentClasses classes;
+  RegisterLibraryClasses(classes);
+  const auto tools = classes.CreateAs<Tools>("ZAFHartLib.Tools");
+  ZAFHartTypes::PromptValues values;
+  values.Set("0", "3.5");
+  EXPECT_EQ(tools->FormatDDString("Output %{0}", values), "Output 3.5");
+  EXPECT_EQ(tools->AccessStandardString(100).ToText(), ResText(100));
+  EXPECT_EQ(tools->AccessStandardString(-1).ToText(), "");
+  EXPECT_EQ(tools->LangText("|049eins|081zero", std::int16_t{81}), "zero");
+  EXPECT_EQ(tools->LangText("one|de|eins", "de"), "eins");
+  EXPECT_EQ(tools->GetDDErrorCode(1), ResText(1201));
+  EXPECT_FALSE(tools->GetDDErrorCode(1).empty());
+  std::string text("a\tb\0c", 5);
+  EXPECT_EQ(tools->FilterCtrlChars(text), "a b");
+  EXPECT_EQ(text, "c");
+  EXPECT_EQ(tools->StripMenuName("Trend [Chart]"), "Trend");
+  EXPECT_EQ(tools->StripMenuGuiClass("Trend [Chart]"), "Chart");
+  EXPECT_EQ(tools->CFormatToVBFormat("2.4f"), "0.0000");
+  ZAFHartTypes::TypeInfo type;
+  type.SetTypeCode(ZAFHartTypes::TypeCode::Enumerated);
+  type.SetEnumItems({{2, "off|de|aus"}});
+  EXPECT_EQ(tools->GetValueDisplayString(2, type), "off|de|aus");
 }
 
 }  // namespace

@@ -2,7 +2,7 @@
 
 #include <map>
 
-#include "hartframe/Report.h"
+#include "hartframe/report/Report.h"
 #include "interfaces/IDDErrorHandler.h"
 
 namespace hartframe {

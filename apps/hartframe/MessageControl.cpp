@@ -1,6 +1,6 @@
 #include "hartframe/MessageControl.h"
 
-#include "hartframe/InputQuestion.h"
+#include "hartframe/methods/InputQuestion.h"
 #include "platform/Platform.h"
 
 namespace hartframe {

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "hartframe/Console.h"
-#include "hartframe/Report.h"
 #include "hartframe/SignalWatch.h"
 #include "hartframe/Speech.h"
+#include "hartframe/report/Report.h"
 #include "interfaces/ControlBase.h"
 
 namespace hartframe {

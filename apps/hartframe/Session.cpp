@@ -90,7 +90,9 @@ void Session::LoadDtm() {
   try {
     components_->Initialize();
   } catch (const Failure& failure) {
-    throw CommandFailure(ExitCode::DtmNotLoadable, failure.Description());
+    const std::string advice =
+        plugin_.empty() ? "; name the folder of its plug-in with --dtm-path" : "";
+    throw CommandFailure(ExitCode::DtmNotLoadable, failure.Description() + advice);
   }
 }
 

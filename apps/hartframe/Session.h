@@ -11,11 +11,11 @@
 #include "hartframe/Console.h"
 #include "hartframe/ErrorWatch.h"
 #include "hartframe/Options.h"
-#include "hartframe/PendingFile.h"
-#include "hartframe/Report.h"
 #include "hartframe/SignalWatch.h"
 #include "hartframe/Speech.h"
 #include "hartframe/ViewControl.h"
+#include "hartframe/changes/PendingFile.h"
+#include "hartframe/report/Report.h"
 
 namespace ZAFHartDebugger {
 class Debugger;

@@ -4,7 +4,7 @@
 #include <optional>
 
 #include "hartframe/OutcomeTexts.h"
-#include "hartframe/ValueTexts.h"
+#include "hartframe/values/ValueTexts.h"
 #include "text/LangText.h"
 #include "types/Utf8.h"
 

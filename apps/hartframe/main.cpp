@@ -1,12 +1,12 @@
 #include <memory>
 
-#include "hartframe/Commands.h"
 #include "hartframe/Identity.h"
-#include "hartframe/JsonReport.h"
 #include "hartframe/PluginProbe.h"
-#include "hartframe/TextReport.h"
+#include "hartframe/commands/Commands.h"
 #include "hartframe/dataset/WorkOnDataSet.h"
 #include "hartframe/link/LinkCommands.h"
+#include "hartframe/report/JsonReport.h"
+#include "hartframe/report/TextReport.h"
 #include "platform/Platform.h"
 
 namespace hartframe {

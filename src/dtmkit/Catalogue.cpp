@@ -20,7 +20,7 @@ TextKey Catalogue::Require(std::string_view name, ObjectKind kind) const {
   const Definition definition = Definition::Define(name, kind);
   if (Contains(definition)) return definition.Key();
   throw Failure(ErrorNumber::InvalidArgument, kSource,
-                "The data model has no " + definition.Describe(0) +
+                "The data model has no " + definition.Describe(1) +
                     "; describe the item before what refers to it.");
 }
 

@@ -26,7 +26,7 @@ const char* ErrorOf(void (*action)(void* argument), void* argument) noexcept {
   } catch (const std::exception& error) {
     return Keep(error.what());
   } catch (...) {
-    return "unknown exception";
+    return "its code threw what is no exception of the standard library";
   }
 }
 

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "hartframe/MethodEnd.h"
 #include "hartframe/browse/DataSetActions.h"
 #include "hartframe/browse/Screen.h"
 #include "hartframe/browse/Side.h"
+#include "hartframe/methods/MethodEnd.h"
 
 namespace hartframe::browse {
 

@@ -1,10 +1,10 @@
 // What the keys do on a page.
 
-#include "hartframe/MethodTexts.h"
-#include "hartframe/Reading.h"
 #include "hartframe/browse/BrowseTexts.h"
 #include "hartframe/browse/Browser.h"
 #include "hartframe/browse/PairScreenTexts.h"
+#include "hartframe/methods/MethodTexts.h"
+#include "hartframe/values/Reading.h"
 
 namespace hartframe::browse {
 

@@ -1,8 +1,8 @@
 #include "hartframe/browse/ComparePage.h"
 
-#include "hartframe/Reading.h"
 #include "hartframe/browse/PairScreenTexts.h"
 #include "hartframe/browse/Row.h"
+#include "hartframe/values/Reading.h"
 
 namespace hartframe::browse {
 

@@ -1,9 +1,9 @@
 #include "hartframe/browse/DataSetActions.h"
 
-#include "hartframe/Transfers.h"
 #include "hartframe/browse/BrowseTexts.h"
 #include "hartframe/browse/Dialogs.h"
 #include "hartframe/browse/PairScreenTexts.h"
+#include "hartframe/changes/Transfers.h"
 #include "hartframe/dataset/KeptDataSet.h"
 
 namespace hartframe::browse {

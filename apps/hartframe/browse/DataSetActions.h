@@ -3,8 +3,8 @@
 #include <functional>
 #include <vector>
 
-#include "hartframe/Changes.h"
 #include "hartframe/browse/Screen.h"
+#include "hartframe/changes/Changes.h"
 
 namespace hartframe::browse {
 

@@ -1,7 +1,7 @@
 #include "hartframe/browse/EditDisplayPage.h"
 
-#include "hartframe/MenuPath.h"
 #include "hartframe/browse/GroupPage.h"
+#include "hartframe/menus/MenuPath.h"
 
 namespace hartframe::browse {
 

@@ -1,10 +1,10 @@
 #include "hartframe/browse/Editing.h"
 
-#include "hartframe/Reading.h"
-#include "hartframe/WriteWatch.h"
 #include "hartframe/browse/BrowseTexts.h"
 #include "hartframe/browse/ValueEditor.h"
+#include "hartframe/changes/WriteWatch.h"
 #include "hartframe/dataset/PairTransfers.h"
+#include "hartframe/values/Reading.h"
 
 namespace hartframe::browse {
 

@@ -1,7 +1,7 @@
 #include "hartframe/browse/GroupPage.h"
 
-#include "hartframe/Changes.h"
 #include "hartframe/browse/BrowseTexts.h"
+#include "hartframe/changes/Changes.h"
 
 namespace hartframe::browse {
 

@@ -1,8 +1,8 @@
 #include "hartframe/browse/MenuPage.h"
 
-#include "hartframe/MenuPath.h"
 #include "hartframe/browse/BrowseTexts.h"
 #include "hartframe/browse/EditDisplayPage.h"
+#include "hartframe/menus/MenuPath.h"
 
 namespace hartframe::browse {
 

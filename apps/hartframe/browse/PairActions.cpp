@@ -1,9 +1,9 @@
 #include "hartframe/browse/PairActions.h"
 
 #include "ddobjects/Method.h"
-#include "hartframe/MenuPath.h"
 #include "hartframe/browse/BrowseTexts.h"
 #include "hartframe/browse/PairScreenTexts.h"
+#include "hartframe/menus/MenuPath.h"
 #include "interfaces/InternalNames.h"
 
 namespace hartframe::browse {

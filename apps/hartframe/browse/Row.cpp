@@ -1,11 +1,11 @@
 #include "hartframe/browse/Row.h"
 
 #include "ddobjects/Method.h"
-#include "hartframe/MenuPath.h"
-#include "hartframe/ValueText.h"
 #include "hartframe/browse/RowTable.h"
 #include "hartframe/browse/TextLayout.h"
 #include "hartframe/dataset/DataSetTexts.h"
+#include "hartframe/menus/MenuPath.h"
+#include "hartframe/values/ValueText.h"
 
 namespace hartframe::browse {
 

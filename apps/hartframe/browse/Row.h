@@ -2,9 +2,9 @@
 
 #include <optional>
 
-#include "hartframe/MenuView.h"
 #include "hartframe/browse/Page.h"
 #include "hartframe/dataset/DataSetPair.h"
+#include "hartframe/menus/MenuView.h"
 
 namespace hartframe::browse {
 

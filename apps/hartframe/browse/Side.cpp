@@ -1,6 +1,6 @@
 #include "hartframe/browse/Side.h"
 
-#include "hartframe/Reading.h"
+#include "hartframe/values/Reading.h"
 
 namespace hartframe::browse {
 

@@ -1,10 +1,10 @@
 #include "hartframe/browse/ValueEditor.h"
 
 #include "ddobjects/ItemArray.h"
-#include "hartframe/ValueText.h"
-#include "hartframe/VariableRow.h"
 #include "hartframe/browse/BrowseTexts.h"
 #include "hartframe/browse/Dialogs.h"
+#include "hartframe/values/ValueText.h"
+#include "hartframe/values/VariableRow.h"
 #include "types/Failure.h"
 
 namespace hartframe::browse {

@@ -1,11 +1,11 @@
 #include <algorithm>
 
-#include "hartframe/Commands.h"
-#include "hartframe/DataSet.h"
-#include "hartframe/Reading.h"
+#include "hartframe/commands/Commands.h"
+#include "hartframe/dataset/DataSet.h"
 #include "hartframe/dataset/DataSetPair.h"
 #include "hartframe/dataset/DataSetTexts.h"
 #include "hartframe/dataset/PairTexts.h"
+#include "hartframe/values/Reading.h"
 
 namespace hartframe {
 

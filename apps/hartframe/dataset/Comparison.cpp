@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "hartframe/WriteWatch.h"
+#include "hartframe/changes/WriteWatch.h"
 #include "hartframe/dataset/PairTexts.h"
 
 namespace hartframe {

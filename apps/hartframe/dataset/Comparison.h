@@ -3,7 +3,7 @@
 #include <string_view>
 #include <vector>
 
-#include "hartframe/VariableRow.h"
+#include "hartframe/values/VariableRow.h"
 
 namespace hartframe {
 

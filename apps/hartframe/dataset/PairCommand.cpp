@@ -1,4 +1,4 @@
-#include "hartframe/Commands.h"
+#include "hartframe/commands/Commands.h"
 #include "hartframe/dataset/DataSetTexts.h"
 #include "hartframe/dataset/PairTransfers.h"
 #include "hartframe/dataset/WorkOnDataSet.h"

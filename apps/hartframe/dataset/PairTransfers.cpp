@@ -1,7 +1,7 @@
 #include "hartframe/dataset/PairTransfers.h"
 
-#include "hartframe/ValueText.h"
 #include "hartframe/dataset/PairTexts.h"
+#include "hartframe/values/ValueText.h"
 
 namespace hartframe {
 

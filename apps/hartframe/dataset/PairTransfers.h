@@ -3,8 +3,8 @@
 #include <functional>
 #include <vector>
 
-#include "hartframe/Changes.h"
-#include "hartframe/Transfers.h"
+#include "hartframe/changes/Changes.h"
+#include "hartframe/changes/Transfers.h"
 #include "hartframe/dataset/DataSetPair.h"
 
 namespace hartframe {

@@ -1,8 +1,8 @@
 #include <algorithm>
 
-#include "hartframe/Changes.h"
-#include "hartframe/Commands.h"
-#include "hartframe/DataSet.h"
+#include "hartframe/changes/Changes.h"
+#include "hartframe/commands/Commands.h"
+#include "hartframe/dataset/DataSet.h"
 #include "hartframe/dataset/DataSetTexts.h"
 #include "hartframe/dataset/KeptDataSet.h"
 

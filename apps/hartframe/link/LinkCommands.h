@@ -2,8 +2,8 @@
 
 #include "hartframe/Console.h"
 #include "hartframe/Options.h"
-#include "hartframe/Report.h"
 #include "hartframe/Speech.h"
+#include "hartframe/report/Report.h"
 
 namespace hartframe {
 

@@ -4,7 +4,7 @@
 
 #include "comm/DtmCatalogue.h"
 #include "hart/HexText.h"
-#include "hartframe/DataSet.h"
+#include "hartframe/dataset/DataSet.h"
 
 namespace hartframe {
 

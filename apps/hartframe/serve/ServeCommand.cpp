@@ -1,7 +1,7 @@
 #include <algorithm>
 
 #include "hart/HexText.h"
-#include "hartframe/Commands.h"
+#include "hartframe/commands/Commands.h"
 #include "hartframe/serve/Emulation.h"
 #include "hartframe/serve/ServeTexts.h"
 #include "links/HartIpServer.h"

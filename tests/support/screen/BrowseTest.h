@@ -2,8 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include "hartframe/TextReport.h"
 #include "hartframe/browse/Browser.h"
+#include "hartframe/report/TextReport.h"
 #include "support/TempFolder.h"
 #include "support/screen/ScriptedTerminal.h"
 

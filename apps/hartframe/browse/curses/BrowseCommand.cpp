@@ -1,6 +1,6 @@
-#include "hartframe/Commands.h"
 #include "hartframe/browse/Browser.h"
 #include "hartframe/browse/curses/CursesTerminal.h"
+#include "hartframe/commands/Commands.h"
 #include "hartframe/dataset/WorkOnDataSet.h"
 
 namespace hartframe {
