@@ -89,7 +89,7 @@ class ZAF_API Variable : public DDObject {
   }
   void SetHandling(bool readable, bool writable);
   // Methods in the order they run; empty when there are none. Pre-edit methods run once when the
-  // user begins to edit the variable, post-edit methods when he leaves it, the others before and
+  // user begins to edit the variable, post-edit methods when it is left, the others before and
   // after each command that reads or writes it.
   const DefinitionList& Actions(ActionList list) const;
   DefinitionList& EditActions(ActionList list);
