@@ -7,7 +7,7 @@ namespace ZAFHartTypes {
 
 // Item-type numbers of the HART DD binary format minus one.
 enum class ObjectKind : std::int32_t {
-  Undefined = -1,
+  Undefined = -1,  // of an empty definition
   Variable = 0,
   Command = 1,
   Menu = 2,
@@ -20,26 +20,29 @@ enum class ObjectKind : std::int32_t {
   Collection = 9,
 };
 
-// Type of a variable's value.
+// Type of a variable's value, and its form on the wire: numbers most significant byte first. A
+// command that carries a variable of a type without a form cannot be executed.
 enum class TypeCode : std::int32_t {
-  NotComputed = -1,
-  Float = 0,
-  Double = 1,
-  Integer = 2,
-  Unsigned = 3,
-  Enumerated = 4,
-  BitEnumerated = 5,
-  Index = 6,  // into an item array
-  Ascii = 7,  // Latin-1 on the wire
-  PackedAscii = 8,
-  Password = 9,
-  BitString = 10,
-  Date = 11,  // three bytes: day, month, year - 1900
-  Time = 12,
+  NotComputed = -1,   // no type yet: any value but Null and arrays is accepted, none is shown
+  Float = 0,          // IEEE 754, 4 bytes
+  Double = 1,         // IEEE 754, 8 bytes
+  Integer = 2,        // two's complement, 1 to 4 bytes
+  Unsigned = 3,       // 1 to 4 bytes; above 2147483647 read as a negative 32-bit integer
+  Enumerated = 4,     // on the wire as Unsigned, like the next two
+  BitEnumerated = 5,  // one or more bits of the value for each item
+  Index = 6,          // into an item array
+  Ascii = 7,          // Latin-1 on the wire
+  PackedAscii = 8,    // four characters, blank to "_", in three bytes
+  Password = 9,       // like Ascii; shown as one "*" per character
+  BitString = 10,     // a text to the library; no form on the wire
+  Date = 11,          // three bytes: day, month, year - 1900
+  Time = 12,          // this and the following: shown as a date; no form on the wire
   DateAndTime = 13,
   Duration = 14,
 };
 
+// The families of types. Unsigned and signed integers are numeric and integral; enumerations, bit
+// enumerations and indexes are integral only. NotComputed is in none.
 constexpr bool IsNumeric(TypeCode code) {
   return code >= TypeCode::Float && code <= TypeCode::Unsigned;
 }
@@ -56,7 +59,7 @@ constexpr bool IsDate(TypeCode code) {
 // Flags of VariableAttributes.
 enum class VariableFlag : std::uint8_t {
   Dynamic = 9,       // a live value: left out of uploads and of reads of whole lists
-  LibraryHeld = 12,  // no device command reads or writes it; never to be written
+  LibraryHeld = 12,  // no device command reads or writes it for its own sake; never to be written
 };
 
 // Argument of Variable::CheckHandling.
@@ -65,6 +68,7 @@ enum class AccessMode : std::int32_t { Write = 0, Read = 1 };
 // Value of Command::Operation; other values are possible and mean neither.
 enum class Operation : std::int32_t { Read = 0, Write = 1, Command = 2 };
 
+// What a data item of a request or reply stands for.
 enum class DataItemType : std::int32_t { Constant = 0, Variable = 1 };
 
 // Type of a DD response code. Values above DataEntryWarning are errors.
@@ -77,6 +81,7 @@ enum class ResponseCodeType : std::int32_t {
   ProcessError = 5,
   MiscError = 6,
 };
+// Neither success nor a warning.
 constexpr bool IsError(ResponseCodeType type) {
   return type > ResponseCodeType::DataEntryWarning;
 }

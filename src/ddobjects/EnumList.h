@@ -8,7 +8,7 @@
 
 namespace ZAFHartTypes {
 
-// A value of an enumerated type with its texts (multilingual).
+// A value of an enumerated type with its texts (multilingual); the help may be "".
 class ZAF_API EnumItem {
  public:
   EnumItem() = default;
@@ -38,6 +38,7 @@ class ZAF_API EnumList {
  public:
   EnumList() = default;
   EnumList(std::initializer_list<EnumItem> items) : items_(items) {}
+  // Appends; a value that is listed already is not found by Find.
   void Add(EnumItem item) { items_.push_back(std::move(item)); }
   std::size_t Count() const { return items_.size(); }
   bool IsEmpty() const { return items_.empty(); }
@@ -51,6 +52,7 @@ class ZAF_API EnumList {
  private:
   std::vector<EnumItem> items_;
 };
+// Bits of a bit-enumerated type, in display order.
 using BitList = EnumList;
 
 }  // namespace ZAFHartTypes

@@ -8,12 +8,14 @@
 
 namespace ZAFHartTypes {
 
+// What an index of an item array stands for.
 struct ArrayElement {
-  std::int32_t index = 0;
-  SharedText description;  // multilingual
-  ZAFHartTypes::Definition definition;
+  std::int32_t index = 0;               // as the DD numbers it and an index variable holds it
+  SharedText description;               // multilingual; what an index variable shows
+  ZAFHartTypes::Definition definition;  // a variable, collection or array
 };
 
+// A DD item array.
 class ZAF_API ItemArray : public DDObject {
  public:
   static constexpr ObjectKind kKind = ObjectKind::ItemArray;
@@ -23,9 +25,11 @@ class ZAF_API ItemArray : public DDObject {
   const ZAFHartTypes::Definition& Definition() const { return ObjectDefinition(); }
   const std::string& Label() const { return label_; }
   void SetLabel(SharedText label) { label_ = std::move(label); }
+  // In DD order; indexes need not follow one another. A data model may add and remove elements when
+  // it computes the array.
   std::vector<ArrayElement>& Elements() { return elements_; }
   const std::vector<ArrayElement>& Elements() const { return elements_; }
-  // First element of that index; nullptr when there is none.
+  // First element of that index; nullptr when there is none. Good until the elements change.
   const ArrayElement* Find(std::int32_t index) const;
   std::shared_ptr<DDObject> Entry() { return shared_from_this(); }
 
@@ -38,11 +42,13 @@ class ZAF_API ItemArray : public DDObject {
   std::vector<ArrayElement> elements_;
 };
 
+// An item of a collection.
 struct CollectionMember {
-  std::string name;
-  ZAFHartTypes::Definition definition;
+  std::string name;                     // within the collection, in the DD's letter case
+  ZAFHartTypes::Definition definition;  // an item of any kind
 };
 
+// A DD collection: items under names of their own.
 class ZAF_API ItemCollection : public DDObject {
  public:
   static constexpr ObjectKind kKind = ObjectKind::Collection;
@@ -52,6 +58,7 @@ class ZAF_API ItemCollection : public DDObject {
   const ZAFHartTypes::Definition& Definition() const { return ObjectDefinition(); }
   const std::string& Label() const { return label_; }
   void SetLabel(SharedText label) { label_ = std::move(label); }
+  // In DD order. IDDKernel::ReadCollectionMember compares their names exactly.
   std::vector<CollectionMember>& Members() { return members_; }
   const std::vector<CollectionMember>& Members() const { return members_; }
   std::shared_ptr<DDObject> Entry() { return shared_from_this(); }

@@ -12,7 +12,8 @@
 namespace ZAFHartTypes {
 
 // Ordered list whose items are found by a key that is compared without regard to letter case.
-// Positions count from 1.
+// Positions count from 1. Iteration yields pairs of key and item in the order of adding; adding and
+// removing makes references to items invalid.
 template <typename Item>
 class KeyedList {
  public:

@@ -6,6 +6,7 @@
 
 namespace ZAFHartTypes {
 
+// A DD method. Its body is the data model's: IDDDataModel::ExecuteMethodBody runs it by name.
 class ZAF_API Method : public DDObject {
  public:
   static constexpr ObjectKind kKind = ObjectKind::Method;
@@ -13,6 +14,7 @@ class ZAF_API Method : public DDObject {
   Method(const Method&) = default;
 
   const ZAFHartTypes::Definition& Definition() const { return ObjectDefinition(); }
+  // Before the method is added to the worker database, which goes by the name it then has.
   void SetDefinition(const ZAFHartTypes::Definition& definition) {
     SetObjectDefinition(definition);
   }
@@ -20,7 +22,8 @@ class ZAF_API Method : public DDObject {
   void SetLabel(SharedText label) { label_ = std::move(label); }
   const std::string& Help() const { return help_; }
   void SetHelp(SharedText help) { help_ = std::move(help); }
-  // DD VALIDITY as last computed.
+  // DD VALIDITY as last computed; true at first. A method that is not valid is hidden, and to run
+  // it is reported as an error (ItemIndex::MethodNotValid).
   bool IsValid() const { return isValid_; }
   void SetIsValid(bool valid) { isValid_ = valid; }
   std::shared_ptr<DDObject> Entry() { return shared_from_this(); }

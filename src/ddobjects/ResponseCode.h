@@ -10,7 +10,8 @@
 
 namespace ZAFHartTypes {
 
-// A response code of a command or transaction with its texts (multilingual).
+// A response code of a command or transaction with its texts (multilingual). Immutable. `value` is
+// the first status byte of a reply, 0 to 127; `type` is the DD's, see IsError.
 class ZAF_API ResponseCode {
  public:
   ResponseCode(std::int16_t value, ResponseCodeType type, SharedText description,
@@ -29,6 +30,7 @@ class ZAF_API ResponseCode {
   std::int16_t value_;
 };
 
+// Response codes in the order they were added. Of two with one value the first counts.
 class ZAF_API ResponseCodeList {
  public:
   ResponseCodeList() = default;

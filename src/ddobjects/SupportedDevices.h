@@ -29,6 +29,7 @@ struct ZAF_API SupportedDevice {
 class ZAF_API ISupportedDevices {
  public:
   virtual ~ISupportedDevices() = default;
+  // Asked when a connection is made: a device that matches none of them is refused.
   virtual std::vector<SupportedDevice> SupportedDevices() const = 0;
 };
 

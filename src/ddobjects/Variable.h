@@ -12,19 +12,19 @@
 
 namespace ZAFHartTypes {
 
-// The six action lists of a variable, in interface order.
+// The six action lists of a variable: methods that run around its editing, reading and writing.
 enum class ActionList : std::uint8_t { PreEdit, PostEdit, PreRead, PostRead, PreWrite, PostWrite };
 inline constexpr std::size_t kActionListCount = 6;
 
 // What a data model computes of a variable. Snapshots share one block until somebody edits it.
 struct VariableBlock {
   VariableAttributes attributes;
-  bool readable = true;
+  bool readable = true;  // DD HANDLING
   bool writable = true;
   TypeInfo typeInfo;
-  SharedText label;
+  SharedText label;  // multilingual, like help and unit
   SharedText help;
-  SharedText fixedUnitText;
+  SharedText fixedUnitText;             // unit that no unit variable gives
   std::vector<DefinitionList> actions;  // one list each, or none: few variables have actions
 
   friend bool operator==(const VariableBlock&, const VariableBlock&) = default;
@@ -38,7 +38,7 @@ struct VariableBlock {
 class ZAF_API Variable : public DDObject {
  public:
   static constexpr ObjectKind kKind = ObjectKind::Variable;
-  using Time = std::chrono::system_clock::time_point;
+  using Time = std::chrono::system_clock::time_point;  // of the platform's wall clock
 
   // State fields that travel, as bits of Changes().
   enum Change : std::uint32_t {
@@ -57,6 +57,7 @@ class ZAF_API Variable : public DDObject {
     kEverything = (1U << 12) - 1,
   };
 
+  // Of no type, readable and writable, valid, without a value and not available.
   explicit Variable(const Definition& definition);
   explicit Variable(std::string_view name)
       : Variable(ZAFHartTypes::Definition::Define(name, kKind)) {}
@@ -66,12 +67,16 @@ class ZAF_API Variable : public DDObject {
   std::shared_ptr<DDObject> Entry() { return shared_from_this(); }
 
   // --- computed attributes ---
+  // Setting and editing gives this object a block of its own, unless it has one already, and marks
+  // it kAttributes. References to the block's parts are good until the next such change.
   const VariableAttributes& Attributes() const { return block_->attributes; }
   VariableAttributes& EditAttributes() { return EditBlock().attributes; }
   const ZAFHartTypes::TypeInfo& TypeInfo() const { return block_->typeInfo; }
   // The reference is good until the variable is copied; take a new one for each computation.
   ZAFHartTypes::TypeInfo& EditTypeInfo() { return EditBlock().typeInfo; }
   void SetTypeInfo(ZAFHartTypes::TypeInfo type) { EditBlock().typeInfo = std::move(type); }
+  // Label, help and unit are multilingual; "" when there is none. The fixed unit is shown while
+  // UnitText() is empty.
   const std::string& Label() const { return block_->label; }
   void SetLabel(SharedText text) { EditBlock().label = std::move(text); }
   const std::string& Help() const { return block_->help; }
@@ -83,6 +88,9 @@ class ZAF_API Variable : public DDObject {
     return mode == AccessMode::Read ? block_->readable : block_->writable;
   }
   void SetHandling(bool readable, bool writable);
+  // Methods in the order they run; empty when there are none. Pre-edit methods run once when the
+  // user begins to edit the variable, post-edit methods when it is left, the others before and
+  // after each command that reads or writes it.
   const DefinitionList& Actions(ActionList list) const;
   DefinitionList& EditActions(ActionList list);
   const DefinitionList& PreEditActions() const { return Actions(ActionList::PreEdit); }
@@ -93,32 +101,42 @@ class ZAF_API Variable : public DDObject {
   const DefinitionList& PostWriteActions() const { return Actions(ActionList::PostWrite); }
 
   // --- state ---
-  // Current value. Of a variable that is available from its default only: the default.
+  // Current value, empty before the first. Of a variable that is available from its default only:
+  // the default. To set it neither checks it nor makes it available or to be written.
   const Variant& Value() const;
   void SetValue(Variant value);
+  // DD DEFAULT_VALUE, or the one loaded for the DTM; empty for none. It is not checked either.
   const Variant& DefaultValue() const { return defaultValue_; }
   void SetDefaultValue(Variant value);
-  // DD VALIDITY as last computed.
+  // DD VALIDITY as last computed; true at first. A variable that is not valid is hidden; a read
+  // gives it SubstituteValue() instead of asking the device, a write is reported as an error.
   bool Validity() const { return validity_; }
   void SetValidity(bool valid) { Set(validity_, valid, kValidity); }
   // The current value is valid: read from the device, written, or set from a default.
   bool Available() const { return available_; }
   void SetAvailable(bool available) { Set(available_, available, kAvailable); }
-  // Changed locally and not yet written to the device.
+  // Changed locally and not yet written to the device; the value is then not overwritten by a read.
   bool ToBeWritten() const { return toBeWritten_; }
   void SetToBeWritten(bool pending) { Set(toBeWritten_, pending, kToBeWritten); }
+  // Written through the worker database; taken back when the editing of its group begins (see
+  // WriteAsOne).
   bool IsChecked() const { return isChecked_; }
   void SetIsChecked(bool checked) { Set(isChecked_, checked, kIsChecked); }
+  // The error recorded for the variable, "" and 0 for none: a multilingual text, and an ItemIndex
+  // or the error number of a reply. A good value from the device takes it back.
   const std::string& ErrorText() const { return errorText_; }
   void SetErrorText(SharedText text) { Set(errorText_, std::move(text), kError); }
   std::int32_t ErrorIndex() const { return errorIndex_; }
   void SetErrorIndex(std::int32_t index) { Set(errorIndex_, index, kError); }
+  // Unit of the value, multilingual: what the unit variable shows. "" while no unit relation has
+  // given one.
   const std::string& UnitText() const { return unitText_; }
   void SetUnitText(SharedText text) { Set(unitText_, std::move(text), kUnitText); }
   // The unit variable that gives this variable its unit; empty for none.
   const ZAFHartTypes::Definition& UnitSource() const { return unitSource_; }
   void SetUnitSource(const ZAFHartTypes::Definition& unit) { Set(unitSource_, unit, kUnitSource); }
-  // Refresh intervals in seconds, -1 for none; copied from the worker database.
+  // Seconds after which a live value (flag Dynamic), or another one, is read anew; -1 for never.
+  // Copied from the worker database.
   std::int32_t DynAvailTime() const { return dynAvailTime_; }
   void SetDynAvailTime(std::int32_t seconds) { Set(dynAvailTime_, seconds, kAvailTimes); }
   std::int32_t StaticAvailTime() const { return staticAvailTime_; }
@@ -128,11 +146,14 @@ class ZAF_API Variable : public DDObject {
   void SetLastReadTime(Time time) { Set(lastReadTime_, time, kLastReadTime); }
 
   // --- state that never travels with a snapshot ---
+  // The attributes are being computed, and the variable is being read, somewhere up the call chain.
+  // Set on the stored object through the worker database.
   bool InRecursion() const { return inRecursion_; }
   void SetInRecursion(bool running) { inRecursion_ = running; }
   bool InReadRecursion() const { return inReadRecursion_; }
   void SetInReadRecursion(bool running) { inReadRecursion_ = running; }
-  // Variables that must be written together with or before this one.
+  // Variables that must be written together with or before this one; the relations enter them. The
+  // reference for editing is good until the variable is copied.
   const RelationItemList& WriteDependencies() const;
   RelationItemList& EditWriteDependencies();
 
@@ -152,7 +173,8 @@ class ZAF_API Variable : public DDObject {
   // Same value, availability, to-be-written and checked marks, validity, error, unit text and
   // computed attributes.
   bool HasSameState(const Variable& other) const;
-  // Takes over value, state and flags of another variable of any name.
+  // Takes over value, the marks available, to be written and checked, validity, error and unit text
+  // of another variable of any name; attributes, default and unit source stay.
   void CopyFrom(const Variable& other);
   // Independent copy; written back, it carries everything.
   std::shared_ptr<Variable> Copy() const;
@@ -168,15 +190,19 @@ class ZAF_API Variable : public DDObject {
   }
   // Keeps the present block as what every computation starts from.
   void FreezeAttributes() { frozenBlock_ = block_; }
+  // Bits of Change: what was set since the snapshot was taken, and a write to the database will
+  // carry. A write forgets them.
   std::uint32_t Changes() const { return changes_; }
   void ForgetChanges() { changes_ = 0; }
   // Value() has been asked since BeginAttributeComputation: a data model that does so computes
   // attributes that depend on the variable itself.
   bool ValueWasRead() const { return valueRead_; }
-  // Tick count at which the variable last became available; kept by the worker database.
+  // Tick count (ms, wraps around) at which the variable last became available; kept by the worker
+  // database.
   std::uint32_t AvailableSince() const { return availableSince_; }
   void SetAvailableSince(std::uint32_t ticks) { availableSince_ = ticks; }
 
+  // A snapshot that carries nothing yet.
   std::shared_ptr<DDObject> ComputeAttributes() override;
   void Assign(const DDObject& other) override;
   std::shared_ptr<DDObject> GetCopy() const override;
@@ -187,6 +213,7 @@ class ZAF_API Variable : public DDObject {
   struct PrivateTag {};
 
  public:
+  // For Copy, Snapshot and ComputeAttributes alone.
   Variable(PrivateTag, const Variable& other, std::uint32_t changes);
 
  private:

@@ -7,7 +7,8 @@
 
 namespace ZAFHartTypes {
 
-// Flags of a variable, addressed by index 0 to 31.
+// Flags of a variable, addressed by index 0 to 31; all unset at first. The library knows those of
+// VariableFlag, whose meaning stands there; others are for hosts.
 class ZAF_API VariableAttributes {
  public:
   bool Flag(VariableFlag index) const {

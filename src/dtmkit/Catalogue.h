@@ -26,8 +26,8 @@ class ZAF_API Catalogue {
   Catalogue(const Catalogue&) = delete;
   Catalogue& operator=(const Catalogue&) = delete;
 
-  // Makes the prototype of a new item. Raises DuplicateKey for a name that is taken, by whatever
-  // kind of item.
+  // Makes the prototype of a new item; the catalogue owns it. Raises DuplicateKey for a name that
+  // is taken, by whatever kind of item.
   template <typename Item>
   Item& Add(std::string_view name) {
     auto item = MakeObject<Item>(name);
@@ -37,12 +37,13 @@ class ZAF_API Catalogue {
   }
 
   // Has `computation` run when the attributes of the item are computed, after those registered
-  // before. Raises InvalidArgument when there is no such item.
+  // before. Raises InvalidArgument when there is no such item of that kind.
   template <typename Item>
   void OnCompute(std::string_view name, Computation<Item> computation) {
     Of<Item>().computations[Require(name, Item::kKind)].push_back(std::move(computation));
   }
-  // The body of a method; raises InvalidArgument when there is no such method.
+  // The body of a method, in place of an earlier one; raises InvalidArgument when there is no such
+  // method.
   void OnExecute(std::string_view method, MethodBody body);
 
   // Prototypes of one kind in the order they were added.
@@ -55,6 +56,7 @@ class ZAF_API Catalogue {
   std::shared_ptr<Item> Prototype(std::string_view name) const {
     return std::static_pointer_cast<Item>(names_.at(Require(name, Item::kKind)));
   }
+  // An item of that name and kind is described.
   bool Contains(const Definition& definition) const;
 
   // Runs the computations of `item`, if there are any.

@@ -11,6 +11,7 @@ namespace ZAFHartTypes::dtmkit {
 
 // Response codes that several commands share.
 using SharedCodes = std::shared_ptr<const ResponseCodeList>;
+// MakeCodes({{5, ResponseCodeType::MiscError, "Too few data bytes"}, …}).
 inline SharedCodes MakeCodes(std::initializer_list<ResponseCode> codes) {
   return std::make_shared<const ResponseCodeList>(codes);
 }
@@ -23,17 +24,20 @@ inline constexpr const char* kDeviceStatus = "device_status";
 // every transaction's reply starts with the response code and the device status by itself.
 class ZAF_API CommandBuilder : public ItemBuilder<CommandBuilder, Command> {
  public:
-  // `number` is the HART command number.
+  // `number` is the HART command number; one above 32767 is given as the negative number of the
+  // same 16 bits.
   CommandBuilder(Catalogue& catalogue, Command& command, std::int16_t number, Operation operation);
 
+  // Opens a new transaction: what follows belongs to it. Each number once.
   CommandBuilder& Transaction(std::int16_t number);
-  // Items in wire order. Arrays that they name have been described before (InvalidArgument
-  // otherwise).
+  // Appends items, in wire order. Arrays that they name have been described before, with their
+  // first element and its member (InvalidArgument otherwise).
   CommandBuilder& Request(std::initializer_list<CommandItem> items);
   CommandBuilder& Reply(std::initializer_list<CommandItem> items);
   CommandBuilder& Request(const std::vector<CommandItem>& items);
   CommandBuilder& Reply(const std::vector<CommandItem>& items);
-  // Response codes of the whole command, and of the present transaction.
+  // Response codes of the whole command, in place of earlier ones and shared, and further ones of
+  // the present transaction, which come before the command's.
   CommandBuilder& Codes(SharedCodes codes);
   CommandBuilder& TransactionCodes(std::initializer_list<ResponseCode> codes);
 

@@ -13,13 +13,15 @@ namespace ZAFHartTypes::dtmkit {
 //   };
 //
 // where Description() returns the process's one description of the device type. Init… put copies of
-// the prototypes into the worker database; Compute… run the item's computations and return it, or
-// return it at once when there are none. What a computation raises reaches the kernel.
+// the prototypes into the worker database, in the order they were described; Compute… run the
+// item's computations and return it, or return it at once when there are none. What a computation
+// raises reaches the kernel. IDDDataModel tells the rest of the operations' contract.
 class ZAF_API DataModelBase : public platform::Object, public IDDDataModel {
  public:
   // `catalogue` outlives the data model and does not change while it lives.
   explicit DataModelBase(const Catalogue& catalogue) : catalogue_(catalogue) {}
 
+  // Nothing.
   std::shared_ptr<platform::Object> GetCompilerAttrs() override;
   void InitVariables(IDDComponents& components, DefinitionList& commands,
                      DefinitionList& relations) override;
@@ -68,8 +70,11 @@ class ZAF_API DataModelBase : public platform::Object, public IDDDataModel {
   std::shared_ptr<WriteAsOne> ComputeWriteAsOneSpecifier(
       IDDKernel& kernel, IDDComponents& components, const std::string& name,
       std::shared_ptr<WriteAsOne> object) override;
+  // Runs the method's body as RunMethod says; a method that has none here does nothing.
   void ExecuteMethodBody(IDDKernel& kernel, IDDComponents& components, const std::string& name,
                          std::shared_ptr<DDObject> context, bool inAbort) override;
+  // What ComputeMethodAttrs and ComputeVarAttrs leave on the object. REQUIRES: an object, except
+  // for ComputeVarType.
   bool ComputeMethodValidity(IDDKernel& kernel, IDDComponents& components, const std::string& name,
                              std::shared_ptr<Method> object) override;
   std::shared_ptr<Variable> ComputeVarType(IDDKernel& kernel, IDDComponents& components,

@@ -20,8 +20,9 @@ namespace ZAFHartTypes::dtmkit {
 //   }
 //
 // Describe arrays and collections before the index variables and commands that name them. Each
-// raises DuplicateKey for a name that is taken. The description is complete, and does not change
-// any more, before the first data model is made from it (see DataModelBase).
+// operation but Known starts a new item and returns the builder that writes it; it raises
+// DuplicateKey for a name that is taken. The description is complete, and does not change any more,
+// before the first data model is made from it (see DataModelBase).
 class ZAF_API DeviceDescription : public Catalogue {
  public:
   VariableBuilder Variable(std::string_view name) {
@@ -32,6 +33,8 @@ class ZAF_API DeviceDescription : public Catalogue {
   VariableBuilder Known(std::string_view name) {
     return VariableBuilder(*this, *Prototype<ZAFHartTypes::Variable>(name));
   }
+  // `number` is the HART command number. The kernel finds a variable's read and write commands
+  // among those of Operation::Read and Write.
   CommandBuilder Command(std::string_view name, std::int16_t number, Operation operation) {
     return {*this, Add<ZAFHartTypes::Command>(name), number, operation};
   }

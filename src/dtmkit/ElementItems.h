@@ -13,8 +13,10 @@ class ZAF_API ElementItems {
  public:
   // Position counts from 1 in the transaction's reply or request.
   void Add(std::int16_t transaction, bool inReply, std::size_t position, ElementPath path);
+  // No item was added.
   bool IsEmpty() const { return items_.empty(); }
-  // Makes every item refer to the element that its index variable now selects.
+  // Makes every item of `command` refer to the element that its index variable now selects; one
+  // that selects none leaves it as it is. Raises as the look-ups of Context do.
   void Resolve(Context& context, Command& command) const;
 
  private:

@@ -5,19 +5,22 @@
 
 namespace ZAFHartTypes::dtmkit {
 
-// A condition of the DD on current values.
+// A condition of the DD on current values. It is asked whenever the item's attributes are computed;
+// what it raises reaches the kernel.
 using Condition = std::function<bool(Context&)>;
 
 // What the builders of all kinds have in common. A builder refers to its catalogue and prototype;
-// use it within one expression or as a local variable.
+// use it within one expression or as a local variable. All words return the builder itself.
 //
 // Texts are multilingual: "Upper range value|de|Messbereichsende".
 template <typename Builder, typename Item>
 class ItemBuilder {
  public:
+  // `item` is a prototype of `catalogue`; both outlive the builder.
   ItemBuilder(Catalogue& catalogue, Item& item) : catalogue_(catalogue), item_(item) {}
 
-  // Label and help of the kinds that have them.
+  // LABEL of all kinds but commands and relations, HELP of variables and methods. Without them the
+  // words do not compile.
   Builder& Label(SharedText text) {
     item_.SetLabel(std::move(text));
     return Self();
@@ -33,6 +36,7 @@ class ItemBuilder {
   }
 
  protected:
+  // For the words of the single kinds.
   Builder& Self() { return static_cast<Builder&>(*this); }
   Catalogue& TheCatalogue() { return catalogue_; }
   Item& Prototype() { return item_; }

@@ -16,6 +16,7 @@ class ZAF_API KernelInformationBase : public platform::Object,
                                       public IKernelInformation,
                                       public ISupportedDevices {
  public:
+  // Standard menus by their DD names: {{StandardName::UploadVariables, "upload_variables"}}.
   using StandardNames = std::initializer_list<std::pair<ZAFHartTypes::StandardName, std::string>>;
 
   // `folder` and `fileName` lead to the INI file and the optimisation data that the DTM ships with;
@@ -28,6 +29,7 @@ class ZAF_API KernelInformationBase : public platform::Object,
         names_(names),
         dataModelVersion_(dataModelVersion) {}
 
+  // What the constructor was told; "" for a standard name that it was not.
   std::string StandardName(ZAFHartTypes::StandardName index) override;
   std::string ComponentFolder() override { return folder_.string(); }
   std::string ComponentFileName() override { return fileName_; }

@@ -7,7 +7,7 @@
 
 namespace ZAFHartTypes::dtmkit {
 
-// The definition of an item by its DD identifier.
+// The definition of an item by its DD identifier. Whether there is such an item is not asked.
 inline Definition VariableNamed(std::string_view name) {
   return Definition::Define(name, ObjectKind::Variable);
 }

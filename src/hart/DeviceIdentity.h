@@ -12,18 +12,19 @@
 // tag); all three have one reply, by the HART universal commands.
 namespace ZAFHartTypes::hart {
 
+// The identity by bytes 1 to 11 of the reply's data (the first is 0), and 17 and 18 from HART 7 on.
 struct ZAF_API DeviceIdentity {
   // HART 7: the expanded device type; before: manufacturer and device type, a byte each.
   std::uint16_t expandedType = 0;
   std::optional<std::uint16_t> toldManufacturer;  // of 16 bits; HART 7 devices tell it
   std::uint8_t requestPreambles = 5;              // in front of what is sent to it, at least
   std::uint8_t universalRevision = 0;             // major number of the protocol: 5, 6, 7
-  std::uint8_t deviceRevision = 0;
+  std::uint8_t deviceRevision = 0;                // of the type's set of commands and variables
   std::uint8_t softwareRevision = 0;
   std::uint8_t hardwareRevision = 0;   // 5 bits
   std::uint8_t physicalSignaling = 0;  // code of 3 bits
-  std::uint8_t flags = 0;
-  std::uint32_t deviceId = 0;  // 3 bytes: the number of this one device
+  std::uint8_t flags = 0;              // as HART's common table of device flags has them
+  std::uint32_t deviceId = 0;          // 3 bytes: the number of this one device
 
   // Manufacturer as told, otherwise the high byte of the type.
   std::uint16_t Manufacturer() const;

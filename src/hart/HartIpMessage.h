@@ -16,15 +16,16 @@ namespace ZAFHartTypes::hart {
 
 inline constexpr std::uint16_t kHartIpPort = 5094;  // UDP and TCP
 inline constexpr std::uint8_t kHartIpVersion = 1;
-inline constexpr std::size_t kHartIpHeaderSize = 8;
+inline constexpr std::size_t kHartIpHeaderSize = 8;  // bytes
 // No body is near that long: a longer byte count is none.
 inline constexpr std::size_t kHartIpMaxSize = 1500;
 
 // Messages of other types and ids are taken apart like these.
 enum class HartIpType : std::uint8_t { Request = 0, Response = 1, Publish = 2, Nak = 15 };
+// What a message is about. A response has the id of its request.
 enum class HartIpId : std::uint8_t {
-  SessionInitiate = 0,
-  SessionClose = 1,
+  SessionInitiate = 0,  // the body is a HartIpSession
+  SessionClose = 1,     // without a body, like the next
   KeepAlive = 2,
   TokenPassing = 3,  // the body is a frame from delimiter to check byte
 };
@@ -40,11 +41,12 @@ enum HartIpStatus : std::uint8_t {
   kHartIpAccessRestricted = 16,
 };
 
+// One message; its version and byte count follow from the rest.
 struct HartIpMessage {
   HartIpType type = HartIpType::Request;
   HartIpId id = HartIpId::KeepAlive;
-  std::uint8_t status = kHartIpSuccess;
-  std::uint16_t sequence = 0;  // an answer has its request's
+  std::uint8_t status = kHartIpSuccess;  // a HartIpStatus in answers; 0 in requests
+  std::uint16_t sequence = 0;            // an answer has its request's
   std::vector<std::uint8_t> body;
 
   friend bool operator==(const HartIpMessage&, const HartIpMessage&) = default;
@@ -53,6 +55,7 @@ struct HartIpMessage {
 // Raises InvalidArgument for a body that makes the message longer than kHartIpMaxSize.
 ZAF_API std::vector<std::uint8_t> EncodeHartIp(const HartIpMessage& message);
 
+// What is wrong with received bytes.
 enum class HartIpFault : std::uint8_t {
   None,
   TooShort,   // ends before its header or its body does
@@ -63,6 +66,7 @@ enum class HartIpFault : std::uint8_t {
 // For messages: "the message is of another version"; "" for None.
 ZAF_API std::string_view FaultText(HartIpFault fault);
 
+// A message that was received, or what there is of one.
 struct DecodedHartIp {
   HartIpFault fault = HartIpFault::None;
   // With a fault: the header and what there is of the body, for an answer that tells the peer;
@@ -91,7 +95,7 @@ class ZAF_API HartIpStream {
 
 // Body of a session initiate: what the client asks for, and what the server grants.
 struct HartIpSession {
-  bool primaryMaster = true;
+  bool primaryMaster = true;  // else the secondary one
   // The server closes a session that is silent for this long. Whole milliseconds of 32 bits.
   std::chrono::milliseconds inactivityClose{0};
 

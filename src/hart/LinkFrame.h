@@ -26,7 +26,7 @@ enum class FrameType : std::uint8_t {
 struct ZAF_API LinkAddress {
   static constexpr std::uint8_t kMaxPolling = 63;  // 15 in HART 5
 
-  bool isLong = false;
+  bool isLong = false;  // the unique address; else a polling address
   // Short: the first byte is the polling address. Long: the unique address, 38 bits.
   std::array<std::uint8_t, 5> bytes{};
 
@@ -38,6 +38,7 @@ struct ZAF_API LinkAddress {
   friend bool operator==(const LinkAddress&, const LinkAddress&) = default;
 };
 
+// One frame without preambles, byte count and check byte, which follow from the rest.
 struct ZAF_API LinkFrame {
   FrameType type = FrameType::Request;
   LinkAddress address;
@@ -59,13 +60,13 @@ struct ZAF_API LinkFrame {
 // Command whose data hold a 16-bit command number: first in a request, after the status bytes in a
 // reply.
 inline constexpr std::uint8_t kExtendedCommand = 31;
-inline constexpr std::size_t kExtendedNumberSize = 2;
-inline constexpr std::size_t kMaxFrameData = 255;
+inline constexpr std::size_t kExtendedNumberSize = 2;  // bytes
+inline constexpr std::size_t kMaxFrameData = 255;      // bytes that the byte count can tell
 // Delimiter, long address, expansion bytes, command, byte count, data, check byte.
 inline constexpr std::size_t kMaxFrameSize = 1 + 5 + 3 + 1 + 1 + kMaxFrameData + 1;
 inline constexpr std::uint8_t kPreamble = 0xFF;
-inline constexpr int kMinPreambles = 2;  // that a receiver must have seen
-inline constexpr int kMaxPreambles = 20;
+inline constexpr int kMinPreambles = 2;   // that a receiver must have seen
+inline constexpr int kMaxPreambles = 20;  // that anybody sends
 
 // A master's request; a number above 255 goes out as command 31. `data` is without the extended
 // number. Raises InvalidArgument for more data than fit.
@@ -87,6 +88,7 @@ ZAF_API std::vector<std::uint8_t> WithPreambles(Bytes frame, int preambles);
 // Exclusive or of all bytes: the check byte of what stands before it.
 ZAF_API std::uint8_t CheckByte(Bytes bytes);
 
+// What is wrong with received bytes.
 enum class FrameFault : std::uint8_t {
   None,
   TooShort,      // ends before its check byte
@@ -99,6 +101,7 @@ enum class FrameFault : std::uint8_t {
 // For messages: "the check byte is wrong"; "" for None.
 ZAF_API std::string_view FaultText(FrameFault fault);
 
+// A frame that was received, or what there is of one.
 struct DecodedFrame {
   FrameFault fault = FrameFault::None;
   // With a fault: what was read before it was found, as it came; nothing when the header (delimiter

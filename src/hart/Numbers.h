@@ -9,6 +9,7 @@
 // Numbers as HART puts them on the wire: most significant byte first.
 namespace ZAFHartTypes::hart {
 
+// Bytes of somebody else's, for the call.
 using Bytes = std::span<const std::uint8_t>;
 using WritableBytes = std::span<std::uint8_t>;
 

@@ -20,7 +20,7 @@ struct BusTimes {
   // From there until the longest reply has ended: what still comes then is noise.
   platform::Milliseconds ReplyEnd(std::size_t requestSize) const;
 
-  Microseconds character;
+  Microseconds character;  // time of one on the wire: start bit, 8 data bits, parity, stop bit
   // RT1: silence after which a master may take a bus that it knows nothing of. 33 characters for
   // the primary, 41 for the secondary master, longer than a device's time for its reply (STO, 28).
   platform::Milliseconds takeIdle;
@@ -37,12 +37,15 @@ struct BusTimes {
 // Bus arbitration: says from what was heard and sent when this master may begin to send.
 class BusAccess {
  public:
+  // Free at once; Lost tells that nothing is known of the bus. All moments are of one clock, the
+  // caller's.
   BusAccess(BusTimes times, bool primaryMaster) : times_(times), primaryMaster_(primaryMaster) {}
 
   // Nothing is known of the bus: it was opened just now, or what it brought was no good frame.
   void Lost(platform::Milliseconds now) { free_ = now + times_.takeIdle; }
   // A byte outside of frames: preambles of one that comes, or noise.
   void HeardByte(platform::Milliseconds now);
+  // A good frame has ended; its type and master bit tell whose the bus is.
   void Heard(const ZAFHartTypes::hart::LinkFrame& frame, platform::Milliseconds now);
 
   // The moment from which this master may send.

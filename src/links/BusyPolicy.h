@@ -9,8 +9,8 @@ namespace HartLinks {
 // Whether and how often a link asks a busy device again before it hands the reply over. Off by
 // default: the caller then sees every such reply.
 struct BusyPolicy {
-  int attempts = 0;  // times that a request is asked again; 0: off
-  platform::Milliseconds delay{500};
+  int attempts = 0;                   // times that a request is asked again; 0: off
+  platform::Milliseconds delay{500};  // from a busy reply until the request is asked again
 
   bool IsOn() const { return attempts > 0; }
 };

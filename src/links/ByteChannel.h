@@ -11,6 +11,7 @@ namespace HartLinks {
 // the message loop, never out of a call.
 class ZAF_API ByteChannel {
  public:
+  // Who is told what the channel brings.
   class Listener {
    public:
     virtual ~Listener() = default;
@@ -29,6 +30,8 @@ class ZAF_API ByteChannel {
   virtual bool IsOpen() const = 0;
   // Raises PathFileAccess with the reason for users.
   virtual void Open() = 0;
+  // Nothing is told any more until it is opened again. Without effect on a channel that is closed
+  // or always open.
   virtual void Close() = 0;
   // REQUIRES: open, and what was sent before has left. A failure is told as OnBroken.
   virtual void Send(ZAFHartTypes::hart::Bytes bytes) = 0;

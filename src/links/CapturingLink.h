@@ -25,11 +25,14 @@ class ZAF_API CapturingLink : public platform::Object,
                               public ZAFHartTypes::ICommCallback,
                               public std::enable_shared_from_this<CapturingLink> {
  public:
+  // Both are shared and must be there. The record has a client port for each link, and begins with
+  // its first exchange.
   static std::shared_ptr<CapturingLink> Create(std::shared_ptr<ZAFHartTypes::ILink> link,
                                                std::shared_ptr<IPacketObserver> observer);
   // Ends its exchanges as Cancelled.
   ~CapturingLink() override;
 
+  // The other link.
   const std::shared_ptr<ZAFHartTypes::ILink>& Inner() const { return link_; }
 
   // --- ILink ---

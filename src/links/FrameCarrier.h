@@ -23,7 +23,7 @@ struct FrameEnd {
 // back.
 class ZAF_API FrameRequest {
  public:
-  using Done = std::function<void(const FrameEnd&)>;
+  using Done = std::function<void(const FrameEnd&)>;  // is called once at most
 
   // `owner` is who takes turns with the others on the carrier.
   FrameRequest(const void* owner, ZAFHartTypes::hart::LinkFrame frame, Done done);

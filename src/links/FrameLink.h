@@ -33,14 +33,17 @@ class ZAF_API FrameLink : public platform::Object,
 
   std::string LastError() const override { return lastError_; }
 
+  // Attempts hold for the exchanges that begin from now on, the delay at once.
   const BusyPolicy& Busy() const { return busy_; }
   void SetBusy(BusyPolicy policy) { busy_ = policy; }
   bool RetriesBusy() const override { return busy_.IsOn(); }
   void SetBusyAttempts(int attempts) override { busy_.attempts = attempts; }
 
+  // What the link's requests go over; other links may share it.
   FrameCarrier& Carrier() const { return *carrier_; }
 
  protected:
+  // The carrier is shared with whoever made it. REQUIRES: a carrier.
   FrameLink(std::shared_ptr<FrameCarrier> carrier, BusyPolicy busy);
 
  private:

@@ -25,17 +25,20 @@ class HartIpConnection : private IpChannel::User {
    public:
     // A session is to be made again as soon as it may be tried.
     virtual bool WantsSession() const = 0;
+    // There is a session: messages can be sent.
     virtual void OnSession() = 0;
     // The session is lost, or an attempt to get one has failed. The reason names the server.
     virtual void OnNoSession(const std::string& reason, bool hadOne) = 0;
     // An answer to a token-passing message, or a NAK.
     virtual void OnAnswer(const Message& message) = 0;
+    // A burst message, which answers nothing.
     virtual void OnPublish(const Message& message) = 0;
 
    protected:
     ~User() = default;
   };
 
+  // Opens nothing yet, see Want. The user outlives the connection.
   HartIpConnection(const HartIpOptions& options, IpChannelOpener open, User& user);
   // Closes the session.
   ~HartIpConnection();

@@ -16,11 +16,13 @@ class ZAF_API HartIpLink : public FrameLink {
   // From the settings (kHartIpSettingsKey); raises InvalidArgument naming the one that is missing
   // or wrong. Nothing is sent before the first exchange.
   HartIpLink() : HartIpLink(HartIpOptions::FromSettings()) {}
+  // To the server named in the options, over this thread's session with it; over a given session.
   explicit HartIpLink(const HartIpOptions& options)
       : HartIpLink(HartIpSession::Shared(options), options.busy) {}
   HartIpLink(std::shared_ptr<HartIpSession> session, BusyPolicy busy)
       : FrameLink(session, busy), session_(std::move(session)) {}
 
+  // Other links may share it.
   HartIpSession& Session() const { return *session_; }
 
  private:

@@ -23,8 +23,9 @@ inline constexpr std::string_view kHartIpSettingsKey =
 // session; all but `busy` are those of the link that came first.
 struct ZAF_API HartIpOptions {
   HartIpServerName server;
-  bool primaryMaster = true;
-  // A gateway may have a device asked several times over 1200 baud before it answers.
+  bool primaryMaster = true;  // else the secondary one
+  // For one sending of a message. A gateway may have a device asked several times over 1200 baud
+  // before it answers.
   platform::Milliseconds timeout{2000};
   // Over UDP a message is sent so often again. Over TCP nothing is lost on the way, and the answer
   // has the time of all of them. Also the number of times that a request is asked again when its
@@ -45,7 +46,9 @@ struct ZAF_API HartIpOptions {
     return server.transport == Transport::Udp ? timeout : timeout * (retries + 1);
   }
 
-  // Raises InvalidArgument naming the setting that is missing ("Host") or cannot be read.
+  // Those of kHartIpSettingsKey, or of another place. Times are at most 86400000 ms, "Retries" 0 to
+  // 100, "Outstanding" 1 to 1000; what is absent is as above. Raises InvalidArgument naming the
+  // setting that is missing ("Host") or cannot be read.
   static HartIpOptions FromSettings();
   static HartIpOptions From(const LinkSettings& settings);
 };

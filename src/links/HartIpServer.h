@@ -10,8 +10,10 @@
 
 namespace HartLinks {
 
+// Where a HART-IP server listens and whom it serves.
 struct HartIpServerOptions {
   platform::SocketAddress local;  // port 0: any free one, the same for both transports
+  // The transports that it listens on.
   bool udp = true;
   bool tcp = true;
   // A connection without a session for so long is closed.
@@ -31,6 +33,7 @@ class ZAF_API HartIpServer {
 
   // Where it listens.
   const platform::SocketAddress& Address() const { return address_; }
+  // Tells who has a session.
   const HartIpService& Service() const { return service_; }
 
  private:

@@ -22,13 +22,14 @@ using FrameAnswerer = std::function<std::optional<HartLinkSim::WireReply>(
 // What a device in burst mode sends; nothing when none is.
 using BurstSource = std::function<std::optional<ZAFHartTypes::hart::LinkFrame>()>;
 
+// What a server grants its clients.
 struct HartIpServiceOptions {
-  std::size_t maxSessions = 16;
+  std::size_t maxSessions = 16;  // one more is refused with kHartIpAllSessionsInUse
   // Between these a client may choose after which silence its session is closed.
   platform::Milliseconds minInactivity{1000};
   platform::Milliseconds maxInactivity{3'600'000};
-  BurstSource burst;  // may be empty; published to all sessions
-  platform::Milliseconds burstPeriod{1000};
+  BurstSource burst;                         // may be empty; published to all sessions
+  platform::Milliseconds burstPeriod{1000};  // between two questions to `burst`
 };
 
 // The server's side of HART-IP, without sockets: sessions by client, requests in and responses out.
@@ -46,19 +47,24 @@ class ZAF_API HartIpService {
     virtual ~Client() = default;
     // The same for all messages of one client: "192.0.2.1:40211/udp".
     virtual const std::string& Name() const = 0;
+    // Takes the bytes of one message. Nothing is told of what gets lost.
     virtual void Send(ZAFHartTypes::hart::Bytes message) = 0;
     // Its session has ended; a connection is closed when what was sent has gone out.
     virtual void HangUp() = 0;
   };
 
+  // `answerer` is asked once for each request, repetitions excepted. REQUIRES: an answerer.
   explicit HartIpService(FrameAnswerer answerer, HartIpServiceOptions options = {});
   HartIpService(const HartIpService&) = delete;
   HartIpService& operator=(const HartIpService&) = delete;
 
+  // A message came from the client, who is held while it has a session; answers are sent to it at
+  // once, or after the time that the device takes.
   void Receive(const std::shared_ptr<Client>& client,
                const ZAFHartTypes::hart::DecodedHartIp& decoded);
   // The client is gone, and its session with it.
   void Forget(const std::string& name);
+  // By Client::Name.
   bool HasSession(const std::string& name) const;
   std::size_t SessionCount() const { return sessions_.size(); }
 

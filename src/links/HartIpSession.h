@@ -33,11 +33,13 @@ class ZAF_API HartIpSession : public FrameCarrier, private HartIpConnection::Use
   // The one of this thread for the options' server and master.
   static std::shared_ptr<HartIpSession> Shared(const HartIpOptions& options);
 
+  // One of its own, over channels that `open` makes.
   HartIpSession(const HartIpOptions& options, IpChannelOpener open);
 
   // Receives the burst messages that the server publishes; they answer nothing. The handler must
   // not let go of the session.
   void SetPublishHandler(PublishHandler handler) { published_ = std::move(handler); }
+  // False before the first request and while the session is made again.
   bool HasSession() const { return connection_.HasSession(); }
 
   // --- FrameCarrier ---

@@ -27,6 +27,7 @@ class ZAF_API HartLine : public FrameCarrier, private ByteChannel::Listener {
   // The thread's line at options.port. Who comes first decides its other options.
   static std::shared_ptr<HartLine> Shared(const ModemOptions& options);
 
+  // One of its own, on a channel that is closed yet. REQUIRES: a channel.
   HartLine(const ModemOptions& options, std::unique_ptr<ByteChannel> channel);
   ~HartLine() override;
 

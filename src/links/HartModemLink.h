@@ -15,11 +15,13 @@ class ZAF_API HartModemLink : public FrameLink {
   // From the settings (kModemSettingsKey); raises InvalidArgument naming the one that is missing or
   // wrong. The port is opened by the first exchange.
   HartModemLink() : HartModemLink(ModemOptions::FromSettings()) {}
+  // At the port named in the options, over this thread's line there; over a given line.
   explicit HartModemLink(const ModemOptions& options)
       : HartModemLink(HartLine::Shared(options), options.busy) {}
   HartModemLink(std::shared_ptr<HartLine> line, BusyPolicy busy)
       : FrameLink(line, busy), line_(std::move(line)) {}
 
+  // Other links may share it.
   HartLine& Line() const { return *line_; }
 
  private:

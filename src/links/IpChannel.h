@@ -10,6 +10,7 @@
 
 namespace HartLinks {
 
+// Where a HART-IP server is.
 struct HartIpServerName {
   std::string host;  // name or numeric address
   std::uint16_t port = ZAFHartTypes::hart::kHartIpPort;
@@ -26,6 +27,7 @@ class IpChannel {
   // destroy the channel in it.
   class User {
    public:
+    // From now on messages can be sent.
     virtual void OnOpen() = 0;
     // One datagram; of a TCP connection, bytes as they came.
     virtual void OnReceive(ZAFHartTypes::hart::Bytes bytes) = 0;

@@ -26,9 +26,11 @@ class ZAF_API LinkSettings {
   LinkSettings(Source source, std::string place)
       : source_(std::move(source)), place_(std::move(place)) {}
 
+  // Where the settings stand: the key, or what was given.
   const std::string& Place() const { return place_; }
   // The value, `otherwise` when it is absent or empty.
   std::string Text(std::string_view name, std::string otherwise) const;
+  // The same as a decimal number; one that is below `least` or above `most` is refused.
   int Number(std::string_view name, int otherwise, int least, int most) const;
 
   // One of several words, compared without regard to ASCII letter case.
@@ -45,7 +47,8 @@ class ZAF_API LinkSettings {
     Refuse(name, text, "one of: " + words);
   }
 
-  // "BusyAttempts" (0 to 100) and "BusyDelay" (milliseconds).
+  // "BusyAttempts" (0 to 100) and "BusyDelay" (milliseconds, 0 to 600000); as BusyPolicy has them
+  // when they are absent.
   BusyPolicy Busy() const;
 
  private:

@@ -11,6 +11,7 @@
 
 namespace HartLinks {
 
+// How the devices' side behaves in time.
 struct ModemServerOptions {
   int preambles = 5;  // ahead of a reply, 2 to 20
   // Between the end of a request and the reply; a master waits 256 ms at most.

@@ -18,6 +18,7 @@ class ZAF_API PcapFile : public IPacketObserver {
   // Replaces the file. Raises PathFileAccess when it cannot be written.
   explicit PcapFile(std::filesystem::path file);
 
+  // Never raise: what cannot be written is told by Error().
   void OnOpened(const Flow& flow, Direction sent) override;
   void OnClosed(const Flow& flow) override;
   void OnBytes(const Flow& flow, Direction direction, ZAFHartTypes::hart::Bytes bytes) override;

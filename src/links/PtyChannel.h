@@ -15,6 +15,7 @@ class ZAF_API PtyChannel : public ByteChannel {
   // Raises DeviceIo when no pseudo terminal can be had.
   PtyChannel();
 
+  // Path of the other end, for the program that opens it: "/dev/pts/3".
   const std::string& Name() const { return terminal_.Name(); }
 
   void SetListener(Listener* listener) override { listener_ = listener; }

@@ -18,6 +18,7 @@ class RequestQueue {
 
   bool IsEmpty() const { return turns_.empty(); }
 
+  // Behind the owner's other requests; an owner who has none gets the last turn.
   void Add(Owner owner, Request request) {
     for (Turn& turn : turns_) {
       if (turn.owner == owner) return turn.requests.push_back(std::move(request));

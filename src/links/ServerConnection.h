@@ -14,6 +14,7 @@ namespace HartLinks {
 class ServerConnection : public HartIpService::Client,
                          public std::enable_shared_from_this<ServerConnection> {
  public:
+  // One message, good or not, and the end of the connection.
   using Received = std::function<void(const std::shared_ptr<ServerConnection>&,
                                       const ZAFHartTypes::hart::DecodedHartIp&)>;
   using Closed = std::function<void(const std::shared_ptr<ServerConnection>&)>;
@@ -24,6 +25,7 @@ class ServerConnection : public HartIpService::Client,
                    Received received, Closed closed);
 
   const std::string& Name() const override { return name_; }
+  // A client that leaves too much unread is cut off.
   void Send(ZAFHartTypes::hart::Bytes message) override;
   void HangUp() override;
 

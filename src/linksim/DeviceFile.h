@@ -25,13 +25,15 @@ namespace HartLinkSim {
 // in quotes, with \\, \", \n, \r, \t and \xNN in it. Names compare without regard to letter case.
 class ZAF_API DeviceFile {
  public:
+  // The sections there may be: values of variables, and the device's own state.
   static constexpr std::string_view kDeviceSection = "device";
   static constexpr std::string_view kStatusSection = "status";
 
+  // A name=value line.
   struct Entry {
-    std::string section;
+    std::string section;  // kDeviceSection or kStatusSection
     std::string name;
-    std::string value;
+    std::string value;     // without quotes and escapes
     std::size_t line = 0;  // from 1
   };
 
@@ -40,6 +42,7 @@ class ZAF_API DeviceFile {
   // read.
   explicit DeviceFile(std::filesystem::path file);
 
+  // As it was given; there need not be such a file.
   const std::filesystem::path& Path() const { return file_; }
   // The name=value lines in file order.
   std::vector<Entry> Entries() const;

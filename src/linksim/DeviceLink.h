@@ -13,6 +13,8 @@ class ZAF_API DeviceLink : public SimulatedLink {
  public:
   // To the device of the calling thread's platform.
   DeviceLink() : DeviceLink(EmulatedDevice::OfThread()) {}
+  // To a device that is shared with the caller. Raises InvalidArgument for a setting that cannot be
+  // read, like all simulated links. REQUIRES: a device.
   explicit DeviceLink(std::shared_ptr<EmulatedDevice> device) : device_(std::move(device)) {}
 
   const std::shared_ptr<EmulatedDevice>& Device() const { return device_; }

@@ -17,6 +17,7 @@ class ZAF_API DeviceMemory {
  public:
   using Value = ZAFHartTypes::Variant;
 
+  // One value.
   struct Cell {
     Value value;
     // Type of the variable, as far as a command has told it.
@@ -32,8 +33,10 @@ class ZAF_API DeviceMemory {
   std::optional<Value> ValueOf(ZAFHartTypes::TextKey name, ZAFHartTypes::TypeCode type);
   // True when the value is new or another one.
   bool Set(ZAFHartTypes::TextKey name, Value value, ZAFHartTypes::TypeCode type);
+  // Replaces a value by a text whose type is not known yet. `line` counts from 1.
   void SetFromFile(ZAFHartTypes::TextKey name, std::string text, std::size_t line);
 
+  // Pairs of name and cell, in the order they came.
   auto begin() { return cells_.begin(); }
   auto end() { return cells_.end(); }
 

@@ -46,9 +46,12 @@ class ZAF_API EmulatedDevice {
   // Sets a value as the device itself would: no change of the configuration. Raises InvalidArgument
   // for a name that cannot stand in a file, PathFileAccess when the file cannot be written.
   void SetValue(std::string_view name, const ZAFHartTypes::Variant& value);
-  // The device status byte of the next reply (hart::DeviceStatusFlag).
+  // The device status byte of the next reply (hart::DeviceStatusFlag). Setting it raises
+  // PathFileAccess when the file cannot be written.
   std::uint8_t Status() const { return status_; }
   void SetStatus(std::uint8_t status);
+  // Wraps around after 65535; 0 for a device that has none. Raises TypeMismatch or Overflow when a
+  // file gave a text that is no such number.
   std::uint16_t ConfigurationChangeCounter() const;
 
   // Keeps the memory in a file from now on (see DeviceFile) and takes over what it holds; a missing

@@ -37,15 +37,16 @@ struct Fault {
 // Reads the text form shown at FaultKind; numbers are decimal or "0x…". Raises InvalidArgument
 // naming what is wrong and the allowed forms.
 ZAF_API Fault ParseFault(std::string_view text);
+// The text form, with decimal numbers.
 ZAF_API std::string FaultText(const Fault& fault);
 
 // What strikes one exchange.
 struct ActiveFaults {
-  platform::Milliseconds latency{0};
-  bool noReply = false;
-  std::uint8_t communicationError = 0;  // 0: none
+  platform::Milliseconds latency{0};    // of all latency faults together
+  bool noReply = false;                 // then no other but the latency strikes
+  std::uint8_t communicationError = 0;  // flags, bit 7 among them; 0: none
   std::uint8_t response = 0;            // 0: none
-  std::uint8_t deviceStatus = 0;
+  std::uint8_t deviceStatus = 0;        // bits to be set
   bool truncated = false;
   bool overlong = false;
   bool corrupt = false;
@@ -61,13 +62,17 @@ class ZAF_API Faults {
   // Faults separated by commas ("latency:30, busy:3"); "" for none. Raises like ParseFault.
   static Faults Parse(std::string_view text);
 
+  // At the end of the list. A text raises like ParseFault.
   void Add(const Fault& fault) { faults_.push_back(fault); }
   void Add(std::string_view text) { Add(ParseFault(text)); }
   void Clear() { faults_.clear(); }
+  // Nothing strikes any more: those with a count leave when they are used up.
   bool IsEmpty() const { return faults_.empty(); }
+  // What is left, as Parse reads it; counts are what remains of them.
   std::string Text() const;
 
-  // What strikes the next exchange; counts it.
+  // What strikes the next exchange; counts it. An exchange of which nothing reaches the device uses
+  // up no fault but that and its latency.
   ActiveFaults Next();
 
  private:

@@ -30,10 +30,12 @@ struct WireReply {
 // of no transaction with 2, too short ones with 5, what it cannot carry out with 6.
 class ZAF_API WireDevice {
  public:
+  // Both are shared and must be there. Its address is asked of the device.
   WireDevice(std::shared_ptr<EmulatedDevice> device, std::shared_ptr<CommandCatalogue> commands);
 
   // The faults of the requests from now on.
   Faults& LinkFaults() { return faults_; }
+  // Other links may share it.
   const std::shared_ptr<EmulatedDevice>& Device() const { return device_; }
   // As its identity said when it was last asked for.
   const ZAFHartTypes::hart::LinkAddress& Address() const { return address_; }

@@ -16,6 +16,7 @@ namespace ZAFHartLib {
 // the type (bytes that form no date, a text for a number).
 ZAF_API std::string GetValueDisplayString(const ZAFHartTypes::Variant& value,
                                           const ZAFHartTypes::TypeInfo& typeInfo);
+// The same for the variable's present value, available or not, without its unit.
 ZAF_API std::string GetVariableDisplayString(const ZAFHartTypes::Variable& variable);
 
 // A negative value as its unsigned 32-bit equivalent (value + 4294967296); others as they are.

@@ -11,6 +11,7 @@ namespace ZAFHartLib {
 // the text ("Process Aborted|de|Vorgang abgebrochen"). A code may also be three digits with the
 // text right behind them ("|049Vorgang abgebrochen").
 
+// One language of such a text.
 struct LanguageSegment {
   std::string_view code;  // "en", "de", "fr", "it", "es", "kt", or three digits that stand for none
   std::string_view text;

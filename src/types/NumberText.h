@@ -10,12 +10,13 @@
 // Numbers and dates as texts, by the OLE Automation rules and the current platform's locale.
 namespace ZAFHartTypes {
 
-// Most digits that a text shows of a number.
+// Most significant digits that a text shows of a single and of a double.
 inline constexpr int kSingleDigits = 7;
 inline constexpr int kDoubleDigits = 15;
 
-// The shortest text of at most `digits` significant digits; exponent form ("1E+15", "1E-05") for
-// numbers of more digits than that before the point or with more than four zeros behind it.
+// The text of at most `digits` significant digits, without trailing zeros; exponent
+// form ("1E+15", "1E-05") for numbers of more digits than that before the point or with four and
+// more zeros behind it. "1.#INF", "-1.#INF" and "-1.#IND" for what is not finite.
 ZAF_API std::string NumberToText(double value, int digits = kDoubleDigits);
 // mantissa / 10^scale in full, without trailing zeros.
 ZAF_API std::string ScaledToText(std::int64_t mantissa, unsigned scale);

@@ -23,6 +23,7 @@ class ZAF_API PromptValues {
     const auto found = values_.find(FoldCase(key));
     return found == values_.end() ? nullptr : &found->second;
   }
+  // Without effect for an unknown key.
   void Remove(std::string_view key) { values_.erase(FoldCase(key)); }
   bool IsEmpty() const { return values_.empty(); }
 

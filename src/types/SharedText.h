@@ -8,7 +8,8 @@
 
 namespace ZAFHartTypes {
 
-// An immutable UTF-8 text that copies by reference. A default-made one is "".
+// An immutable UTF-8 text that copies by reference; threads may share it. A default-made one is "".
+// Texts convert to it and it converts to them, so that it stands wherever a text is asked for.
 class ZAF_API SharedText {
  public:
   SharedText() = default;
@@ -18,9 +19,11 @@ class ZAF_API SharedText {
   SharedText(const char* text) : SharedText(std::string(text)) {}       // NOLINT
 
   bool IsEmpty() const { return text_ == nullptr; }
+  // Good as long as some copy of the text lives.
   const std::string& Text() const;
   operator const std::string&() const { return Text(); }  // NOLINT(google-explicit-constructor)
 
+  // By characters.
   friend bool operator==(const SharedText& a, const SharedText& b) {
     return a.text_ == b.text_ || a.Text() == b.Text();
   }

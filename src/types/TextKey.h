@@ -12,19 +12,22 @@ namespace ZAFHartTypes {
 // UTF-8 text with letter case taken away: ASCII, Latin-1, Greek and Cyrillic letters, "°", "Ω" (the
 // unit sign and the letter are one) and the like. Keys of every keyed list compare through it.
 ZAF_API std::string FoldCase(std::string_view text);
+// The texts differ in letter case at most.
 ZAF_API bool SameKey(std::string_view a, std::string_view b);
 
 // A name interned for the life of the process: comparing two costs a pointer comparison.
 // Names come from DDs and from code, so their number is bounded.
 class ZAF_API TextKey {
  public:
+  // The key of "".
   TextKey() = default;
-  // The key of a name, made when it is new.
+  // The key of a name, made when it is new. Threads may call it at the same time.
   static TextKey Of(std::string_view name);
 
   bool IsEmpty() const { return entry_ == nullptr; }
   // The name as it was first written in exactly this letter case.
   const std::string& Name() const;
+  // The name as FoldCase gives it. Both are good for the life of the process.
   const std::string& Folded() const;
 
   // Same item: the names differ in letter case at most.
@@ -48,6 +51,7 @@ class ZAF_API TextKey {
   friend struct TextKeyPool;
 };
 
+// For unordered containers with keys of this type.
 struct ZAF_API TextKeyHash {
   std::size_t operator()(TextKey key) const { return key.Hash(); }
 };

@@ -29,6 +29,7 @@ enum class VariantType : std::uint16_t {
   Array = 0x200C,  // array of variants
 };
 
+// The value of Null: no value, where Empty is a value not given yet.
 struct NullValue {
   friend bool operator==(NullValue, NullValue) { return true; }
 };
@@ -57,6 +58,7 @@ class ZAF_API Variant {
  public:
   using ArrayType = std::shared_ptr<const std::vector<Variant>>;
 
+  // Empty; otherwise of the type of what it is made from.
   Variant() = default;
   Variant(NullValue) : value_(NullValue{}) {}              // NOLINT(google-explicit-constructor)
   Variant(std::int16_t value) : value_(value) {}           // NOLINT
@@ -80,6 +82,7 @@ class ZAF_API Variant {
   static Variant Null() { return Variant(NullValue{}); }
 
   VariantType Type() const;
+  // By type: "" is a text and 0 a number, neither is empty.
   bool IsEmpty() const { return std::holds_alternative<std::monostate>(value_); }
   bool IsNull() const { return std::holds_alternative<NullValue>(value_); }
   bool IsText() const { return std::holds_alternative<SharedText>(value_); }
@@ -88,6 +91,10 @@ class ZAF_API Variant {
   // A single or double whose exponent bits are all set: an infinity or a NaN.
   bool IsNotFinite() const;
 
+  // Each raises TypeMismatch for Null, for an array and for a text that is no number, Overflow for
+  // a number beyond the type. Empty is 0; a Boolean that is true is -1, as a byte 255. ToDate also
+  // reads date texts and takes 1 January 100 to 31 December 9999; ToBoolean also reads "True" and
+  // "False", any other number than 0 being true.
   std::int16_t ToShort() const;
   std::int32_t ToLong() const;
   float ToSingle() const;
