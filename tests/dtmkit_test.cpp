@@ -80,6 +80,8 @@ TEST(DescriptionCheck, NamesEveryMistake) {
   dd.Variable("later").OnCompute([](Context&, Variable& variable) { variable.SetValue(1); });
   dd.Variable("acting").Float().Actions(ActionList::PreEdit, {"warn"});
   dd.Command("write", 129, Operation::Write).Request({"lvel"}).Reply({"level"});
+  dd.Variable("since").DateAndTime();
+  dd.Command("age", 130, Operation::Read).Reply({"since", "level"});
   dd.Menu("setup").Menus({"level"});
   dd.UnitRelation("units").Unit("unt").Dependents({"level"});
   const std::string mistakes =
@@ -90,6 +92,7 @@ TEST(DescriptionCheck, NamesEveryMistake) {
                                               "VARIABLE \"delay\" .*\"99\".*\n"
                                               "VARIABLE \"acting\" .*METHOD \"warn\".*\n"
                                               "COMMAND \"write\" .*VARIABLE \"lvel\".*\n"
+                                              "COMMAND \"age\" .*VARIABLE \"since\".*wire.*\n"
                                               "MENU \"setup\" .*MENU \"level\".*\n"
                                               "UNIT \"units\" .*VARIABLE \"unt\".*\n"));
 }

@@ -55,6 +55,10 @@ constexpr bool IsText(TypeCode code) {
 constexpr bool IsDate(TypeCode code) {
   return code >= TypeCode::Date && code <= TypeCode::Duration;
 }
+// Commands can carry values of the type.
+constexpr bool HasWireForm(TypeCode code) {
+  return (code >= TypeCode::Float && code <= TypeCode::Password) || code == TypeCode::Date;
+}
 
 // Flags of VariableAttributes.
 enum class VariableFlag : std::uint8_t {

@@ -209,7 +209,6 @@ class ZAF_API Variable : public DDObject {
   std::string Describe(std::int16_t infoLevel) const override;
 
  private:
-  friend std::shared_ptr<Variable> DuplicateVariable(const Variable&, std::uint32_t changes);
   struct PrivateTag {};
 
  public:

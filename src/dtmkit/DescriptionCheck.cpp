@@ -76,10 +76,18 @@ class DescriptionCheck {
     for (const auto& transaction : command.Transactions()) {
       for (const DataItemList* items : {&transaction->Request(), &transaction->Reply()}) {
         for (const DataItem& item : *items) {
-          if (item.IsVariable()) Reference(item.VariableDefinition());
+          if (item.IsVariable()) CheckItem(item.VariableDefinition());
         }
       }
     }
+  }
+  void CheckItem(const Definition& definition) {
+    Reference(definition);
+    if (!catalogue_.Contains(definition)) return;
+    const TypeCode code = catalogue_.Prototype<Variable>(definition.Name())->TypeInfo().TypeCode();
+    if (code == TypeCode::NotComputed || HasWireForm(code)) return;
+    Mistake("carries the " + Named(definition) +
+            ", whose type has no form on the wire: give it another type.");
   }
   void Check(const Menu& menu) {
     for (const MenuItem& item : menu.Items()) Reference(item.Definition());

@@ -87,7 +87,7 @@ void CapturingLink::Execute(const std::shared_ptr<Exchange>& exchange) {
   }
   const auto inner = CopyOf(*exchange);
   inner->SetCallback(weak_from_this());
-  if (sequence_ == 0) RecordSession();
+  if (!sessionRecorded_) RecordSession();
   pending_.push_back({exchange, inner, RecordRequest(*inner)});
   try {
     link_->Execute(inner);
@@ -119,6 +119,7 @@ void CapturingLink::CommCallback_Finisched(const std::shared_ptr<Exchange>& inne
 
 void CapturingLink::RecordSession() {
   const auto body = hart::EncodeSession({primaryMaster_, std::chrono::minutes(1)});
+  sessionRecorded_ = true;
   ++sequence_;
   for (const auto type : {hart::HartIpType::Request, hart::HartIpType::Response}) {
     Record({type, hart::HartIpId::SessionInitiate, 0, sequence_, body});

@@ -69,7 +69,8 @@ class ZAF_API CapturingLink : public platform::Object,
   std::shared_ptr<IPacketObserver> observer_;
   Flow flow_;
   bool primaryMaster_;
-  std::uint16_t sequence_ = 0;
+  bool sessionRecorded_ = false;
+  std::uint16_t sequence_ = 0;  // wraps around
   std::vector<Pending> pending_;
 };
 

@@ -19,14 +19,10 @@ namespace {
 
 constexpr std::size_t kGroupBits = 32;
 
-bool HasWireForm(TypeCode code) {
-  return (code >= TypeCode::Float && code <= TypeCode::Password) || code == TypeCode::Date;
-}
-
 std::size_t WireSizeOf(const DataItem& item) {
   if (!item.IsVariable()) return 1;
   const ZAFHartTypes::TypeInfo& type = BoundVariable(item).TypeInfo();
-  if (!HasWireForm(type.TypeCode())) {
+  if (!ZAFHartTypes::HasWireForm(type.TypeCode())) {
     throw Failure(ErrorNumber::InvalidArgument, "HartLinkSim.ItemLayout",
                   "The variable \"" + item.VariableDefinition().Name() + "\" has the type " +
                       DescribeType(type.TypeCode()) +
