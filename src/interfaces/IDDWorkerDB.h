@@ -86,8 +86,8 @@ class ZAF_API IDDWorkerDB {
   virtual void SetRefresh(const Definition& right, const Definition& left) = 0;
   virtual void SetUnitInRecursion(const Definition& definition, bool running) = 0;
   virtual bool IsUnitInRecursion(const Definition& definition) const = 0;
-  // `right` gets its unit from the unit variable `left`. Where that is another unit than before,
-  // the value is converted to it, unless it waits to be written, and is to be read again. Raises as
+  // `right` gets its unit from the unit variable `left`. When the unit has changed since, the value
+  // is converted to it, unless it waits to be written, and is to be read again. Raises as
   // SetRefresh.
   virtual void SetUnit(const Definition& right, const Definition& left) = 0;
   // Clears the recursion marks of all variables and commands.
@@ -104,8 +104,8 @@ class ZAF_API IDataBaseExtension {
   // first. Setting it to true has no effect.
   virtual bool IsDirty() const = 0;
   virtual void SetIsDirty(bool dirty) = 0;
-  // Device and data set agree, as far as known: set by uploads and downloads, cleared when a write
-  // in synchronous mode could not go to the device for emulating.
+  // Device and data set agree, as far as known: set by upload, download and write changes, cleared
+  // when a write in synchronous mode could not go to the device for emulating.
   virtual bool IsSynchronized() const = 0;
   virtual void SetIsSynchronized(bool synchronized) = 0;
   // Writes go to the device at once, from IDDWorkerDB::WriteValue on. "__ZAF__OnlineMode" 1 or 2
