@@ -15,6 +15,7 @@ namespace ZAFHartLib {
 
 // Where a device is looked for.
 struct ZAF_API DeviceTarget {
+  // Which of the following the device is looked for by.
   ZAFHartTypes::Addressing addressing = ZAFHartTypes::Addressing::Automatic;
   std::int32_t pollingAddress = 0;  // 0 to 63
   std::string tag;                  // of 8 characters, or a long tag of 32

@@ -47,7 +47,8 @@ class ZAF_API IDDCommWrapper {
   // over, builds the connection menu, and ends emulating. A missing one is reported as evaluation
   // error.
   virtual void Initialize() = 0;
-  // While emulating, every command is completed locally and the DTM is offline.
+  // While emulating, every command is completed locally with the values of the data set, and the
+  // DTM is offline. Setting it, to either, ends the connection of the wrapper for real links.
   virtual bool Emulate() const = 0;
   virtual void SetEmulate(bool emulate) = 0;
   // The polling address (0 to 63), the tag and the long address (ten hexadecimal digits), "" for an

@@ -76,6 +76,7 @@ class ZAF_API IDDDTMGUI {
   // Keeps the user from starting anything until the id that it answers, above 0, is released; locks
   // add up. Controls are locked by IGuiContainer::SetLockControls instead.
   virtual std::int32_t SetUILock() = 0;
+  // Some lock is held.
   virtual bool IsUILocked() const = 0;
   virtual void ReleaseUILock(std::int32_t lockId) = 0;
 };

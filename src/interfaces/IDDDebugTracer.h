@@ -13,6 +13,7 @@ namespace ZAFHartTypes {
 class ZAF_API ITracedOperation {
  public:
   virtual ~ITracedOperation() = default;
+  // `infoLevel`: detail level for Describe.
   virtual std::vector<std::string> TraceLines(std::int32_t infoLevel) const = 0;
 };
 

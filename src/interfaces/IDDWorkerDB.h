@@ -15,6 +15,7 @@ namespace ZAFHartTypes {
 
 class IDDComponents;
 
+// Values in the order of the items of a list.
 using ValueList = std::vector<Variant>;
 
 // The store of all DD objects and values of one DTM instance. Names are keys without regard to

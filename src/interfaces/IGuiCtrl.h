@@ -44,6 +44,7 @@ class ZAF_API IGuiCtrl {
   virtual bool QueryClose() const = 0;
   virtual bool IsOnline() const = 0;
   virtual void SetIsOnline(bool online) = 0;
+  // What the control offers to do with the whole data set.
   virtual enumGuiActions ActionType() const = 0;
   virtual void SetActionType(enumGuiActions action) = 0;
   // Shows everything anew.

@@ -11,6 +11,7 @@
 
 namespace ZAFHartTypes {
 
+// Completed and the states after it are ends.
 enum class ExchangeState : std::int32_t {
   Created = 0,     // no link has it yet
   Queued = 1,      // by the link, behind others

@@ -46,6 +46,7 @@ class ZAF_API ManualClock : public Clock {
   bool SleepBlocks() const override { return false; }
   // 1 January 2020, 0:00 UTC, and Now() on top.
   std::chrono::system_clock::time_point WallTime() override;
+  // Moves on, and never back: `duration` is not negative.
   void Advance(Milliseconds duration) { now_ += duration; }
 
  private:

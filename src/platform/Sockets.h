@@ -98,6 +98,7 @@ class ZAF_API TcpListener : public Socket {
   using Socket::Socket;
 };
 
+// A connection that a peer has made, connected already.
 struct TcpListener::Accepted {
   TcpSocket socket;
   SocketAddress from;

@@ -116,6 +116,7 @@ class ZAF_API CDDWorkerDB : public platform::Object,
   // Told of each change of a single-storage variable, with the storage mode; nothing for none.
   void SetSingleStorage(std::shared_ptr<ISingleStorage> manager);
   std::shared_ptr<ISingleStorage> GetSingleStorage() const { return singleStorage_; }
+  // Set by the manager that pairs the data sets.
   void SetStorageMode(ZAFHartTypes::StorageMode mode) { storageMode_ = mode; }
   ZAFHartTypes::StorageMode GetStorageMode() const { return storageMode_; }
   // WriteObject that is not passed on to the single-storage manager.
