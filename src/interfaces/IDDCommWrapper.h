@@ -25,9 +25,9 @@ class ZAF_API IDDCommWrapper {
   // Executes a transaction of the HART command `number` and waits for its end; the message loop
   // runs meanwhile. Fills the reply items, whose variables the caller has bound. True when a usable
   // reply came; false is no failure: while emulating, and when nobody answered (LastResult -3).
-  // Raises InvalidArgument without a transaction, Cancelled after ILinkUser::CancelExchange,
-  // ObjectNotSet after a tear-down, NotConnected for a change that cannot be sent (see
-  // IDeviceConnection), and what the link or the coding of a value raises.
+  // Raises InvalidArgument without a transaction and for a device address that is none, Cancelled
+  // after ILinkUser::CancelExchange, ObjectNotSet after a tear-down, NotConnected for a change that
+  // cannot be sent (see IDeviceConnection), and what the link or the coding of a value raises.
   virtual bool ExecuteCommand(std::int16_t number,
                               const std::shared_ptr<Transaction>& transaction) = 0;
   // Starts an execution; its end reaches the kernel's AsyncExecuteCommandEnd with the same object,
