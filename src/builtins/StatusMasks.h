@@ -10,8 +10,8 @@ namespace ZAFHartLib {
 
 // Which bits of a status byte end a method, and which have the command sent again.
 struct MaskPair {
-  std::uint8_t abort = 0;
-  std::uint8_t retry = 0;
+  std::uint8_t abort = 0;  // bits that end the method
+  std::uint8_t retry = 0;  // bits that have the command sent again
 
   // Another code of handling changes nothing.
   void Apply(std::uint8_t mask, ZAFHartTypes::StatusHandling handling);
@@ -23,7 +23,7 @@ class StatusMasks {
   using StatusByte = ZAFHartTypes::StatusByte;
 
   MaskPair& operator[](StatusByte byte) { return pairs_[static_cast<std::size_t>(byte)]; }
-  // `status` holds the three bytes.
+  // Some byte has a bit of its mask. `status` holds the three bytes; SubscriptOutOfRange for fewer.
   bool Aborts(const ZAFHartTypes::ByteBuffer& status) const {
     return Meets(status, &MaskPair::abort);
   }

@@ -12,6 +12,7 @@ namespace ZAFHartLib {
 
 class DeviceSearch;
 
+// `address`: the part of the address under which the device was looked for (DeviceTarget::Text).
 // `reason` is what the link tells; "" when nobody answered.
 ZAF_API std::string NoDeviceText(const std::string& address, std::string reason);
 // Of a search that found nobody: as above, or that somebody answered without an identity.

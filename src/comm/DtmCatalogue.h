@@ -16,6 +16,7 @@ namespace ZAFHartLib {
 // torn down.
 class ZAF_API DtmCatalogue : public HartLinkSim::CommandCatalogue {
  public:
+  // Keeps the instance weakly.
   explicit DtmCatalogue(const std::shared_ptr<ZAFHartTypes::IDDComponents>& components);
   HartLinkSim::FoundCommand Find(std::uint16_t number, ZAFHartTypes::hart::Bytes request) override;
   void OnCarriedOut(const ZAFHartTypes::Transaction& transaction,

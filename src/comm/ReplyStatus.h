@@ -19,8 +19,8 @@ inline constexpr std::int32_t kReplyErrorBase = 0x100000;
 
 // What a reply records on its variables.
 struct ReplyError {
-  std::int32_t number = 0;
-  std::string text;  // multilingual
+  std::int32_t number = 0;  // ErrorIndex of the variables: kReplyErrorBase + status byte
+  std::string text;         // multilingual
 };
 
 // Takes the first two bytes of a reply apart: with bit 7 set, the first is a communication error

@@ -22,22 +22,29 @@ class ZAF_API CDDComponents : public platform::Object,
                               public ZAFHartTypes::IDDComponents,
                               public std::enable_shared_from_this<CDDComponents> {
  public:
+  // Without components, and the class names at their defaults.
   static std::shared_ptr<CDDComponents> Create();
   // Tears the instance down when that has not been done.
   ~CDDComponents() override;
 
-  // Creates and wires all components and loads the data model. With `secureKernel` the kernel
-  // extension is made from KernelExtensionClass, otherwise it is the kernel itself. A failure of a
-  // step reaches the caller; what was created before it stays until PrepareTermination.
+  // Creates and wires all components and loads the data model. Once per instance,
+  // or anew after PrepareTermination. With `secureKernel` the kernel extension is made from
+  // KernelExtensionClass, otherwise it is the kernel itself. Raises CannotCreateObject and
+  // TypeMismatch for a class name that gives no such component, ObjectNotSet when a method of the
+  // DTM had the instance torn down; any other failure of a step reaches the caller too. What was
+  // created before it stays until PrepareTermination.
   void Initialize(bool secureKernel = false);
   // Clears every back-reference, then releases the components. Called while an operation runs (from
-  // a timer in a wait, say), the references are cleared at once, the operation fails, and the
-  // components go when it has ended.
+  // a timer in a wait, say), the references are cleared at once, the operation fails with
+  // ObjectNotSet, and the components go when it has ended. Never raises; a second call does
+  // nothing.
   void PrepareTermination();
 
-  // Whole-data-set operations. Progress stands in "__ZAF__ProgressValue" (percent, -1 when idle)
-  // and "__ZAF__ProgressTitle"; the GUI is locked meanwhile. Failures of the kernel and the
-  // database reach the caller, with locks, progress and marks restored.
+  // Whole-data-set operations, see IDDComponents. Progress stands in "__ZAF__ProgressValue"
+  // (percent, -1 when idle) and "__ZAF__ProgressTitle"; the GUI is locked meanwhile. Failures of
+  // the kernel and the database reach the caller, with locks and progress restored. Methods
+  // of the DTM are run before and after: "__ZAF__pre_upload", "__ZAF__post_upload" and the same
+  // with "download". Raise TypeMismatch with another worker database than the library's.
   void Upload(ZAFHartTypes::Definition& menu) override;
   void Download(ZAFHartTypes::Definition& menu) override;
   void WriteChanges() override;
@@ -60,7 +67,8 @@ class ZAF_API CDDComponents : public platform::Object,
   std::shared_ptr<ZAFHartTypes::IDDDTMGUI> DDGUI() const override { return gui_; }
   std::shared_ptr<ZAFHartTypes::IDDCommWrapper> HARTComm() const override { return comm_; }
 
-  // The same components as properties that the host may replace.
+  // The same components as properties that the host may replace: after Initialize, which
+  // makes its own. The host gives the new one the component model.
   void SetDDKernel(std::shared_ptr<ZAFHartTypes::IDDKernel> kernel) { kernel_ = std::move(kernel); }
   void SetDDKernelExtension(std::shared_ptr<ZAFHartTypes::IDDKernel> kernel) {
     kernelExtension_ = std::move(kernel);
@@ -78,7 +86,9 @@ class ZAF_API CDDComponents : public platform::Object,
     comm_ = std::move(comm);
   }
 
-  // Class names, set before Initialize. Kernel and extension default to the library's own.
+  // Class names ("project.class"), set before Initialize. Kernel and extension default to the
+  // library's own; the other two have to be set. The project of the data model's class also names
+  // that of the DTM's "KernelInformation".
   const std::string& KernelClass() const { return kernelClass_; }
   void SetKernelClass(std::string name) { kernelClass_ = std::move(name); }
   const std::string& KernelExtensionClass() const { return kernelExtensionClass_; }
@@ -87,10 +97,11 @@ class ZAF_API CDDComponents : public platform::Object,
   void SetCommWrapperClass(std::string name) { commWrapperClass_ = std::move(name); }
   const std::string& DataModelClass() const { return dataModelClass_; }
   void SetDataModelClass(std::string name) { dataModelClass_ = std::move(name); }
-  // Class of the builtin libraries; set by Initialize.
+  // Class of the builtin libraries; set by Initialize, and may be changed after it.
   const std::string& DDBuitlinLibName() const { return builtinLibName_; }
   void SetDDBuitlinLibName(std::string name) { builtinLibName_ = std::move(name); }
-  // Name of the menu that lists the variables of upload and download; set by Initialize.
+  // Name of the menu that lists the variables of upload and download; set by Initialize from the
+  // DTM's standard names. For the host; Upload and Download ask the DTM again.
   const std::string& UpDownloadMenuName() const { return upDownloadMenuName_; }
   void SetUpDownloadMenuName(std::string name) { upDownloadMenuName_ = std::move(name); }
   // For the host; the library does not read it.

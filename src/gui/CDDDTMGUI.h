@@ -43,17 +43,23 @@ class ZAF_API CDDDTMGUI : public platform::Object,
   CDDDTMGUI();
   ~CDDDTMGUI() override;
 
-  // Registers a control at the end of the list; a control is listed once. Failures are ignored.
+  // Registers a control at the end of the list; a control is listed once. It is told the language,
+  // and that the UI is locked when it is; not the component model, which the host gives it after
+  // Initialize. Failures are ignored.
   void RegisterCtrl(const Control& nobj);
   // Lets go of the control, also as ActiveControl and MessageControl. Failures are ignored.
   void UnregisterCtrl(const Control& nobj);
 
-  // The control that has the user's attention.
+  // The control that has the user's attention: asked for edited values and, without a message
+  // control, for messages. Not registered by this.
   const Control& ActiveControl() const { return activeControl_; }
   void SetActiveControl(Control control) { activeControl_ = std::move(control); }
-  // The control that shows user messages; gets the component model.
+  // The control that shows user messages; gets the component model, and the language when that is
+  // set next. Need not be registered.
   const Control& MessageControl() const { return messageControl_; }
   void SetMessageControl(Control control);
+  // The connection to the tracer that the registry names; nothing after SetExternalTracer(nullptr):
+  // errors are not traced then.
   const std::shared_ptr<CExternalTraceConnection>& ExternalTracer() const { return tracer_; }
   void SetExternalTracer(std::shared_ptr<CExternalTraceConnection> tracer);
   // The DD call stack; nothing is replaced by a new one.
@@ -64,20 +70,31 @@ class ZAF_API CDDDTMGUI : public platform::Object,
   void SetInplaceAcknowledge(bool inplace) { inplaceAcknowledge_ = inplace; }
 
   // --- IDDDTMGUI ---
+  // Held until it is replaced, or the component model is set.
   void SetErrorHandler(std::shared_ptr<ZAFHartTypes::IDDErrorHandler> handler) override;
   std::shared_ptr<ZAFHartTypes::IDDErrorHandler> ErrorHandler() const override;
   // Clears the error handler. A component model: reads the settings, hands it to the controls that
   // are containers and starts the refresh. Nothing: hands that on and stops.
   void SetComponentModel(const std::shared_ptr<ZAFHartTypes::IDDComponents>& components) override;
   std::shared_ptr<ZAFHartTypes::IDDComponents> ComponentModel() const override;
+  // "en" at first. Told to all controls; what they show already is theirs to translate.
   void SetLanguageID(const std::string& language) override;
   std::string LanguageID() const override { return language_; }
+  // Never nothing.
   std::shared_ptr<ZAFHartTypes::IDDDebugTracer> TraceObject() override;
+  // While the update is locked and the setting EnableHostVariableFilter is 1, only internal items
+  // are passed on. Without an object does nothing.
   void ShowObject(const Object& object) override;
   void HideObject(const Object& object) override;
-  // Raises Unexpected for a cyclic evaluation that the error handler did not handle.
+  // Records the error on its variable, where the first one stands, handled or not; ReadNotValid
+  // clears the record. Shows nothing for
+  // CannotRead, ReadNotValid, WriteNotValid and MethodNotValid. Raises Unexpected for a cyclic
+  // evaluation that the error handler did not handle, InvalidArgument without an object.
   void ObjectError(const Object& object, ZAFHartTypes::ItemIndex index) override;
-  // InvalidArgument when a code other than 0 comes without its command.
+  // A code is shown with the DD's text, else the standard one, a warning as information, one of
+  // type success not at all. When no error handler handles it, IDDCommWrapper::LastResult becomes
+  // the user's answer, 0 when nothing was shown. InvalidArgument when a code other than 0 comes
+  // without its command.
   void ResponseCodeError(const ZAFHartTypes::CommandStatus& status,
                          const std::shared_ptr<ZAFHartTypes::CommandRef>& command) override;
   void EvaluationError(const std::string& message) override;
@@ -87,13 +104,14 @@ class ZAF_API CDDDTMGUI : public platform::Object,
   // Shown by the MessageControl, else the ActiveControl (with the texts as they are), else every
   // registered control. Texts are translated. Failures give 0.
   std::int32_t ShowUserMessage(ZAFHartTypes::UserMessage& message) override;
+  // The message control is left out for kNoDisplay.
   void HideUserMessage(std::int32_t displayId) override;
   void LifeSignal(ZAFHartTypes::LifeSignalCode code,
                   const ZAFHartTypes::SignalObject& object) override;
   // Reaches the controls of all GUI managers of the thread.
   void StopCurrentEditing() override;
   // Locks the controls of all GUI managers of the thread and stops the refresh. The result is the
-  // id to release the lock with.
+  // id, from 1, to release the lock with.
   std::int32_t SetUILock() override;
   bool IsUILocked() const override { return !locks_.empty(); }
   // An id that is not held is ignored.
@@ -103,6 +121,7 @@ class ZAF_API CDDDTMGUI : public platform::Object,
   bool LockUpdate() const override { return lockUpdate_; }
   void SetLockUpdate(bool locked) override;
   void RefreshView() override;
+  // False when no control prints it.
   bool DoPrint(std::int32_t functionId, std::int32_t printType,
                ZAFHartTypes::Variant& printResult) override;
   void ObservedDataChangeEvent() override;

@@ -11,10 +11,13 @@ namespace ZAFHartTypes {
 // Model() after every wait: it raises ObjectNotSet once the instance has been torn down.
 class ZAF_API ModelReference {
  public:
+  // Held weakly; nothing at tear-down.
   void Set(const std::shared_ptr<IDDComponents>& components) { components_ = components; }
+  // Nothing before Set and after tear-down.
   std::shared_ptr<IDDComponents> Get() const { return components_.lock(); }
   std::shared_ptr<IDDComponents> Model() const;
 
+  // Each raises ObjectNotSet also when the model does not have that component.
   std::shared_ptr<IDDKernel> Kernel() const { return Require(Model()->DDKernel()); }
   std::shared_ptr<IDDWorkerDB> Database() const { return Require(Model()->DDWorkerDB()); }
   std::shared_ptr<IDDDTMGUI> Gui() const { return Require(Model()->DDGUI()); }

@@ -6,7 +6,8 @@
 namespace ZAFHartTypes {
 
 // A control of a DTM that shows nothing and answers no message; controls override what they show.
-// It keeps the component model weakly.
+// It keeps the component model weakly, and the language. Everything else does nothing: it answers
+// nothing, an empty value, 0 or false, and never raises.
 class ZAF_API ControlBase : public IDDDTMGUI {
  public:
   void SetErrorHandler(std::shared_ptr<IDDErrorHandler>) override {}

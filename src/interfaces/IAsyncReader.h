@@ -12,7 +12,8 @@ class ZAF_API IAsyncReader {
  public:
   virtual ~IAsyncReader() = default;
   // Starts the read and returns. The result is the reference whose end a life signal
-  // ExchangeFinished reports; nothing when no exchange was started.
+  // ExchangeFinished reports; nothing when no exchange was started. Raises as
+  // IDDKernel::AsyncReadVariable.
   virtual std::shared_ptr<CommandRef> AsyncReadVariableEx(const Definition& definition) = 0;
 };
 

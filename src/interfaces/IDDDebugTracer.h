@@ -13,6 +13,7 @@ namespace ZAFHartTypes {
 class ZAF_API ITracedOperation {
  public:
   virtual ~ITracedOperation() = default;
+  // `infoLevel`: detail level for Describe.
   virtual std::vector<std::string> TraceLines(std::int32_t infoLevel) const = 0;
 };
 
@@ -21,7 +22,7 @@ class ZAF_API ITracedOperation {
 class ZAF_API IDDDebugTracer {
  public:
   virtual ~IDDDebugTracer() = default;
-  // Detail level to pass to Describe.
+  // Detail level to pass to Describe; at first what the external tracer asks for, 1 without one.
   virtual std::int32_t TraceInfoLevel() const = 0;
   virtual void SetTraceInfoLevel(std::int32_t level) = 0;
   // Opens this object's level; without effect when it is open.
@@ -33,9 +34,12 @@ class ZAF_API IDDDebugTracer {
   // Keeps the open level's lines as text and lets go of its operation. Called before an operation
   // ends without ReleaseStack, so that its texts reach the error report.
   virtual void FixStack() = 0;
-  // Adds a line to the open level; "" ends the inputs.
+  // Adds a line to the open level; "" ends the inputs, and the tracer may stop the thread there.
+  // Without effect when no level is open.
   virtual std::int32_t TraceStack(const std::string& text) = 0;
-  // Closes the open level and what was left open below it.
+  // Closes the open level and what was left open below it; `text` goes to the external tracer.
+  // Without effect when no level is open. An object that goes with its level open leaves its lines
+  // to the error report.
   virtual std::int32_t ReleaseStack(const std::string& text) = 0;
   // A free line, kept nowhere. Level -1 passes every filter.
   virtual std::int32_t TraceText(std::int32_t level, const std::string& text) = 0;

@@ -15,10 +15,12 @@ namespace ZAFHartTypes {
 
 class IDDComponents;
 
+// Values in the order of the items of a list.
 using ValueList = std::vector<Variant>;
 
 // The store of all DD objects and values of one DTM instance. Names are keys without regard to
-// letter case; positions count from 1 in the order the objects were added.
+// letter case; positions count from 1 in the order the objects were added. Nothing is removed. No
+// operation asks the device, except WriteValue and WriteValues in synchronous mode.
 //
 // In every Set… an empty definition means all objects of the kind concerned; an unknown name or an
 // object of another kind is ignored. Every Is… answers false for them.
@@ -28,15 +30,20 @@ class ZAF_API IDDWorkerDB {
   virtual void SetComponentModel(const std::shared_ptr<IDDComponents>& components) = 0;
   virtual std::shared_ptr<IDDComponents> ComponentModel() const = 0;
 
-  // The object to work with (see DDObject::ComputeAttributes); nothing for an unknown name.
+  // The object to work with (see DDObject::ComputeAttributes): a snapshot of a variable, any other
+  // object itself; nothing for an unknown name. A value whose refresh interval has passed is not
+  // available any more. Attributes may be stale: the kernel's getters compute them.
   virtual std::shared_ptr<DDObject> ReadObject(const Definition& definition) = 0;
-  // Takes the object's content into the stored object of its name; ignored when there is none.
+  // Takes what was changed on the object into the stored object of its name; ignored when there is
+  // none. Never sends anything. Raises InvalidArgument for an object of another kind.
   virtual void WriteObject(const std::shared_ptr<DDObject>& object) = 0;
-  // Stores a new object; one whose name is taken is dropped silently.
+  // Stores a new object, the caller's own; one whose name is taken is dropped silently. Raises
+  // InvalidArgument for nothing.
   virtual void AddObject(const std::shared_ptr<DDObject>& object) = 0;
-  // Constants and stored values of the items, in item order.
+  // Constants and stored values of the items, in item order; empty for an unknown variable.
   virtual ValueList ReadValues(const DataItemList& items) = 0;
-  // Writes the values of the variable items; SubscriptOutOfRange when there are too few.
+  // WriteValue of each variable item with the value at its position, those of constants skipped;
+  // SubscriptOutOfRange when there are too few.
   virtual void WriteValues(const DataItemList& items, const ValueList& values) = 0;
 
   virtual std::int32_t Count() const = 0;
@@ -47,29 +54,42 @@ class ZAF_API IDDWorkerDB {
   // is none; without a kind, `start` or -1.
   virtual std::int32_t FindNextObject(std::int32_t start,
                                       std::optional<ObjectKind> kind = {}) const = 0;
-  // All stored objects in order, as they are now.
+  // All stored objects themselves, in order; objects added later are not among them.
   virtual std::vector<std::shared_ptr<DDObject>> NewEnum() const = 0;
 
+  // False: the value is to be read again. "__ZAF__DynAvailTime" stays available when all are meant.
   virtual void SetVariableAvailable(const Definition& definition, bool available) = 0;
+  // `index`: 0 for no error; an ItemIndex, a status (see kReplyErrorBase) or another number of
+  // whoever records it. `text`: multilingual.
   virtual void SetVariableError(const Definition& definition, std::int32_t index,
                                 const std::string& text) = 0;
+  // Marks that keep the kernel from entering a computation or a read again (InRecursion,
+  // InReadRecursion). Those of relations take no empty definition.
   virtual void SetCommandInRecursion(const Definition& definition, bool running) = 0;
   virtual bool IsCommandInRecursion(const Definition& definition) const = 0;
   virtual void SetVariableInRecursion(const Definition& definition, bool running) = 0;
   virtual bool IsVariableInRecursion(const Definition& definition) const = 0;
+  // The user has looked at the value, or written it: for write-as-one groups.
   virtual void SetVariableIsChecked(const Definition& definition, bool checked) = 0;
   // Never true for a variable that is not writable or is library-held.
   virtual void SetVariableToBeWritten(const Definition& definition, bool pending) = 0;
-  // Stores a new value: the variable becomes available and, when a device command can write it, to
-  // be written. An unknown name is ignored.
+  // Stores a new value: the variable becomes available and, when it is writable and not
+  // library-held, to be written by the next WriteChanges; in synchronous mode it is written at once
+  // (see IDDKernel::WriteVariable, also for what it raises). One that the variable has already, and
+  // that is available, changes no mark. It is not checked: see Variable::CheckValue. An unknown
+  // name is ignored. Raises TypeMismatch for a refresh interval ("__ZAF__DynAvailTime") that is no
+  // number.
   virtual void WriteValue(const Definition& definition, const Variant& value) = 0;
   virtual void SetRefreshInRecursion(const Definition& definition, bool running) = 0;
   virtual bool IsRefreshInRecursion(const Definition& definition) const = 0;
-  // `left` has changed and `right` is to be read again. InvalidArgument for non-variables.
+  // `left` has changed: `right` is to be read again, unless it has been read since, and is written
+  // after `left`. Raises InvalidArgument for what is no variable, and ignores unknown names.
   virtual void SetRefresh(const Definition& right, const Definition& left) = 0;
   virtual void SetUnitInRecursion(const Definition& definition, bool running) = 0;
   virtual bool IsUnitInRecursion(const Definition& definition) const = 0;
-  // `right` gets its unit from the unit variable `left`. InvalidArgument for non-variables.
+  // `right` gets its unit from the unit variable `left`. When the unit has changed since, the value
+  // is converted to it, unless it waits to be written, and is to be read again. Raises as
+  // SetRefresh.
   virtual void SetUnit(const Definition& right, const Definition& left) = 0;
   // Clears the recursion marks of all variables and commands.
   virtual void ResetInRecursionFlags() = 0;
@@ -81,13 +101,16 @@ class ZAF_API IDDWorkerDB {
 class ZAF_API IDataBaseExtension {
  public:
   virtual ~IDataBaseExtension() = default;
-  // A value changed since SetIsDirty(false); setting it to true has no effect.
+  // A value changed since SetIsDirty(false), which no operation of the library calls; true at
+  // first. Setting it to true has no effect.
   virtual bool IsDirty() const = 0;
   virtual void SetIsDirty(bool dirty) = 0;
-  // Device and data set agree, as far as known.
+  // Device and data set agree, as far as known: set by upload, download and write changes, cleared
+  // when a write in synchronous mode could not go to the device for emulating.
   virtual bool IsSynchronized() const = 0;
   virtual void SetIsSynchronized(bool synchronized) = 0;
-  // Writes go to the device at once. "__ZAF__OnlineMode" 1 or 2 follows; 0 is left alone.
+  // Writes go to the device at once, from IDDWorkerDB::WriteValue on. "__ZAF__OnlineMode" 1 or 2
+  // follows; 0 is left alone.
   virtual bool SynchronousMode() const = 0;
   virtual void SetSynchronousMode(bool synchronous) = 0;
 };

@@ -26,7 +26,8 @@ class ZAF_API IDeviceConnection {
   // Looks for the device and checks that it is what the DTM is for; the message loop runs
   // meanwhile. True when connected, or connected already. False otherwise: the reason has been
   // shown and is ConnectionError(). While emulating there is nothing to connect to. Raises
-  // Cancelled when the user ends it, and what the link raises.
+  // InvalidArgument for an address that is none, Cancelled when the user ends it, and what the link
+  // raises.
   virtual bool Connect() = 0;
   // Cancels the exchanges under way and lets go of the link that the wrapper made itself.
   virtual void Disconnect() = 0;

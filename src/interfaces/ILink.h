@@ -11,25 +11,30 @@
 
 namespace ZAFHartTypes {
 
+// Completed and the states after it are ends.
 enum class ExchangeState : std::int32_t {
-  Created = 0,
-  Queued = 1,
-  InProgress = 2,
-  Completed = 3,  // with a reply
+  Created = 0,     // no link has it yet
+  Queued = 1,      // by the link, behind others
+  InProgress = 2,  // on the way
+  Completed = 3,   // with a reply
   NoReply = 4,
   Cancelled = 5,
   NotSent = 6,  // there was no connection to send it on
 };
+// A link has it, and its end is to come.
 constexpr bool IsUnderWay(ExchangeState state) {
   return state == ExchangeState::Queued || state == ExchangeState::InProgress;
 }
 
+// Whether an ended exchange has a reply: with an error status as well.
 enum class ExchangeResult : std::int32_t { None = 0, ReplyPresent = 1 };
+// How a link gives the reply: as bytes, or as values by name behind the two status bytes.
 enum class ResponseType : std::int32_t { Bytes = 0, NamedValues = 1 };
 
 class Exchange;
 
-// Receives the end of an exchange.
+// Receives the end of an exchange: once, when its state tells how it ended; from within the link's
+// Execute or Cancel, or from the message loop. What it raises reaches the link.
 class ZAF_API ICommCallback {
  public:
   virtual ~ICommCallback() = default;
@@ -40,14 +45,19 @@ class ZAF_API ICommCallback {
 // fills in the reply and finishes it. Data are texts of hexadecimal digits, two per byte ("0040").
 class ZAF_API Exchange : public std::enable_shared_from_this<Exchange> {
  public:
+  // HART command number. One that a link has replaced makes the reply that of another command,
+  // which is dropped.
   std::int16_t CommandNumber() const { return commandNumber_; }
   void SetCommandNumber(std::int16_t number) { commandNumber_ = number; }
+  // 0 to 63.
   std::int16_t PollAddress() const { return pollAddress_; }
   void SetPollAddress(std::int16_t address) { pollAddress_ = address; }
+  // The tag of the data set, for links that look devices up by it; "" for none.
   const std::string& Tag() const { return tag_; }
   void SetTag(std::string tag) { tag_ = std::move(tag); }
   // Ten hexadecimal digits when the unique address of the device is known; zeros are the broadcast
-  // address of commands 11 and 21. Otherwise the request goes to the polling address.
+  // address of commands 11 and 21. Two digits are a polling address. Otherwise the request goes to
+  // PollAddress.
   const std::string& LongAddress() const { return longAddress_; }
   void SetLongAddress(std::string address) { longAddress_ = std::move(address); }
   // Data bytes of the request.
@@ -63,14 +73,17 @@ class ZAF_API Exchange : public std::enable_shared_from_this<Exchange> {
   void SetItemsOf(std::shared_ptr<Transaction> transaction) {
     transaction_ = std::move(transaction);
   }
+  // Of that transaction; nullptr without one. Good as long as the exchange lives.
   const DataItemList* RequestItems() const;
   const DataItemList* ReplyItems() const;
 
+  // Set by links on the way; Finish sets the end.
   ExchangeState State() const { return state_; }
   void SetState(ExchangeState state) { state_ = state; }
   ExchangeResult Result() const { return result_; }
   void SetResult(ExchangeResult result) { result_ = result; }
-  // NamedValues: the link gives the reply as values by variable name instead of bytes.
+  // NamedValues: the link gives the values of the reply by variable name in ResponseInfo, and in
+  // ReplyData only the two status bytes.
   ZAFHartTypes::ResponseType ResponseType() const { return responseType_; }
   void SetResponseType(ZAFHartTypes::ResponseType type) { responseType_ = type; }
   KeyedList<Variant>& ResponseInfo() { return responseInfo_; }
@@ -101,12 +114,13 @@ class ZAF_API Exchange : public std::enable_shared_from_this<Exchange> {
   std::shared_ptr<CommandRef> userData_;
 };
 
-// The way to a device. Links are created by class name.
+// The way to a device. Links are created by class name, or made by the host.
 class ZAF_API ILink {
  public:
   virtual ~ILink() = default;
   // Starts the exchange and returns; its state changes arrive through the message loop. A link that
   // needs no time may have finished it before it returns. Raises when it cannot be driven at all.
+  // The exchange is held until it ends; InvalidProcedureCall for one that is under way already.
   virtual void Execute(const std::shared_ptr<Exchange>& exchange) = 0;
   // Ends an exchange under way as Cancelled; one that is not under way is left alone.
   virtual void Cancel(const std::shared_ptr<Exchange>& exchange) = 0;

@@ -13,6 +13,7 @@ using Milliseconds = std::chrono::milliseconds;
 // Millisecond tick count of the system; wraps around after 49.7 days.
 using TickCount = std::uint32_t;
 
+// The time that a thread's platform goes by; used on that thread only.
 class ZAF_API Clock {
  public:
   virtual ~Clock();
@@ -28,10 +29,12 @@ class ZAF_API Clock {
   // Date and time of day, UTC.
   virtual std::chrono::system_clock::time_point WallTime() = 0;
 
+  // Now() and CoarseNow() as tick counts: subtract them to get an age, in ms.
   TickCount Ticks() { return static_cast<TickCount>(Now().count()); }
   TickCount CoarseTicks() { return static_cast<TickCount>(CoarseNow().count()); }
 };
 
+// The system's steady clock, and its date and time.
 ZAF_API std::unique_ptr<Clock> MakeSystemClock();
 
 // A clock for tests: stands still until it is advanced or slept on.
@@ -41,7 +44,9 @@ class ZAF_API ManualClock : public Clock {
   Milliseconds Now() override { return now_; }
   void Sleep(Milliseconds duration) override { now_ += duration; }
   bool SleepBlocks() const override { return false; }
+  // 1 January 2020, 0:00 UTC, and Now() on top.
   std::chrono::system_clock::time_point WallTime() override;
+  // Moves on, and never back: `duration` is not negative.
   void Advance(Milliseconds duration) { now_ += duration; }
 
  private:

@@ -19,6 +19,7 @@ namespace platform {
 // current directory. A plug-in stays loaded until the process ends.
 class ZAF_API ComponentClasses {
  public:
+  // Makes a new object; one that makes nothing fails with CannotCreateObject.
   using Factory = std::function<std::shared_ptr<Object>()>;
 
   // Replaces an earlier registration of the same name. Raises InvalidArgument for a name of another
@@ -50,6 +51,7 @@ class ZAF_API ComponentClasses {
   // CannotCreateObject, naming the file, when it cannot be used.
   std::vector<std::string> LoadPlugin(const std::filesystem::path& file);
 
+  // Of all classes registered so far, as they were written; in alphabetical order.
   std::vector<std::string> RegisteredNames() const;
 
  private:

@@ -13,22 +13,22 @@ namespace platform {
 // Numbers of the run-time failures that the library raises. The small ones are those of the OLE
 // Automation run time, the large ones are HRESULT values.
 enum class ErrorNumber : std::uint32_t {
-  InvalidProcedureCall = 5,
-  Overflow = 6,
-  SubscriptOutOfRange = 9,
-  TypeMismatch = 13,
+  InvalidProcedureCall = 5,  // not possible in this state, or no such key
+  Overflow = 6,              // a number that its type does not hold
+  SubscriptOutOfRange = 9,   // no such position, transaction or element
+  TypeMismatch = 13,         // a value does not convert; an object does not offer an interface
   FileNotFound = 53,
-  DeviceIo = 57,
-  PathFileAccess = 75,
-  ObjectNotSet = 91,
-  CannotCreateObject = 429,
-  MemberNotFound = 438,
+  DeviceIo = 57,             // a serial port, socket or the like failed; with the system's reason
+  PathFileAccess = 75,       // a file cannot be read or written
+  ObjectNotSet = 91,         // something is missing: an item, or the DTM instance, torn down
+  CannotCreateObject = 429,  // a class name or plug-in gives no object
+  MemberNotFound = 438,      // by ILateBound::Invoke
   DuplicateKey = 457,
   NotImplemented = 0x80004001,
   InvalidArgument = 0x80070057,
-  NotConnected = 0x8007048F,
-  Cancelled = 0x800704C7,
-  Unexpected = 0x8000FFFF,
+  NotConnected = 0x8007048F,  // a change could not be sent to the device
+  Cancelled = 0x800704C7,     // the user's break
+  Unexpected = 0x8000FFFF,    // whatever has no other number, another exception among it
 };
 
 // The usual text of a number ("Type mismatch", …); "Automation error" for one without a text.
@@ -37,7 +37,8 @@ ZAF_API std::string_view StandardText(ErrorNumber number);
 // The only exception that the library throws on purpose.
 class ZAF_API Failure : public std::exception {
  public:
-  // An empty description becomes StandardText(number).
+  // `source` names the operation that fails. `description` is for users and logs; an empty one
+  // becomes StandardText(number).
   Failure(ErrorNumber number, std::string source, std::string description = {});
   ~Failure() override;
 

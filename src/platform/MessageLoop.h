@@ -22,7 +22,10 @@ class ZAF_API Subscription {
   Subscription(Subscription&&) noexcept = default;
   Subscription& operator=(Subscription&& other) noexcept;
   ~Subscription();
+  // Never raises; a second call does nothing.
   void Cancel();
+  // The handler is to run, or to run again: not after Cancel, once a handler that runs once has
+  // started, nor after the loop has gone.
   bool IsActive() const;
 
  private:
@@ -53,6 +56,7 @@ class ZAF_API MessageLoop {
   using Handler = std::function<void()>;
   using FailureSink = std::function<void(const Failure&)>;
 
+  // `clock` has to outlive the loop. What is left when the loop goes is dropped without being run.
   explicit MessageLoop(Clock& clock);
   ~MessageLoop();
   MessageLoop(const MessageLoop&) = delete;
@@ -80,10 +84,12 @@ class ZAF_API MessageLoop {
   // For a host with its own loop: when the next handler is due (Clock::Now() time; a moment in the
   // past when one is waiting), nothing when there is none.
   std::optional<Milliseconds> NextDue() const;
-  // Runs what is due now, without the host's events.
+  // Runs what is due now, without the host's events; true when a handler ran.
   bool RunDue();
   // Runs the handlers of the descriptors that are ready now; true when there was one.
   bool RunReady();
+  // Not owned; nullptr takes it back, before the host goes. The host is told of what is due and
+  // watched already.
   void SetHostLoop(HostLoop* host);
 
   // Where a Failure that leaves a handler goes; by default it is dropped.

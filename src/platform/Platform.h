@@ -16,7 +16,8 @@
 
 namespace platform {
 
-// Identity of this library's application instance and of the calling thread.
+// Identity of this library's application instance (one per loaded library) and of the calling
+// thread (counts from 1, not the system's). For IGuiCont2.
 ZAF_API std::uintptr_t ApplicationInstance();
 ZAF_API std::uint64_t ThreadId();
 
@@ -24,11 +25,13 @@ ZAF_API std::uint64_t ThreadId();
 // the seams to the operating system.
 class ZAF_API Platform {
  public:
+  // Without classes and registry keys. Classes of the library: RegisterLibraryClasses.
   explicit Platform(std::unique_ptr<Clock> clock = MakeSystemClock());
   ~Platform();
   Platform(const Platform&) = delete;
   Platform& operator=(const Platform&) = delete;
 
+  // Good as long as the platform.
   Clock& GetClock() { return *clock_; }
   MessageLoop& Loop() { return loop_; }
   ComponentClasses& Classes() { return classes_; }
@@ -61,6 +64,7 @@ ZAF_API Platform& Current();
 // Makes another platform the current one of this thread until the scope ends.
 class ZAF_API PlatformScope {
  public:
+  // `platform` has to outlive the scope. Scopes nest.
   explicit PlatformScope(Platform& platform);
   ~PlatformScope();
   PlatformScope(const PlatformScope&) = delete;

@@ -34,6 +34,7 @@ inline constexpr std::uint32_t kPluginAbi = 3;
   return ZAF_STANDARD_LIBRARY ", ZAFHartLib " ZAFHARTLIB_SERIES;
 }
 
+// One class that a plug-in offers.
 struct PluginClass {
   const char* name;  // "project.class"
   // Stores a new object; returns nullptr, or the text of what went wrong.
@@ -45,13 +46,14 @@ struct PluginClass {
 // prepare itself.
 struct PluginDescription {
   std::uint32_t size;
-  std::uint32_t abi;
-  const char* buildTag;
+  std::uint32_t abi;     // kPluginAbi
+  const char* buildTag;  // PluginBuildTag()
   const PluginClass* classes;
   std::uint32_t classCount;
-  const char* error;
+  const char* error;  // nullptr for none
 };
 
+// That function, with C linkage and this name; the macro of dtmkit/Plugin.h writes it.
 using PluginEntry = const PluginDescription* (*)() noexcept;
 inline constexpr const char* kPluginEntryName = "ZafHartPluginDescription";
 

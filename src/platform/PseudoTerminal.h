@@ -21,11 +21,12 @@ class ZAF_API PseudoTerminal {
   PseudoTerminal(const PseudoTerminal&) = delete;
   PseudoTerminal& operator=(const PseudoTerminal&) = delete;
 
+  // For MessageLoop::Watch; not to be closed.
   int Descriptor() const { return descriptor_; }
   // The path of the other end, "/dev/pts/3".
   const std::string& Name() const { return name_; }
 
-  // The number of bytes that were taken, from the first on.
+  // The number of bytes that were taken, from the first on; 0 when there is no room just now.
   std::size_t Send(std::span<const std::uint8_t> bytes);
   // What has come: the number of bytes, 0 when none are there; nothing while nobody has the other
   // end open any more (its descriptor is ready then all the time: look again after a while).

@@ -12,9 +12,11 @@ class ZAF_API RandomSource {
  public:
   RandomSource();
   explicit RandomSource(std::uint64_t seed);
+  // The same seed gives the same numbers from then on, on every system.
   void Seed(std::uint64_t seed) { engine_.seed(seed); }
   // Uniform in [0, 1).
   double Uniform();
+  // 64 random bits.
   std::uint64_t Bits() { return engine_(); }
 
  private:

@@ -18,6 +18,7 @@ namespace platform {
 // line. Blanks around names and values are trimmed; one pair of quotes around a value is taken off.
 class ZAF_API Registry {
  public:
+  // Also for a key without values that has subkeys.
   bool HasKey(std::string_view path) const;
   // Nothing when the key or the value is absent.
   std::optional<std::string> Value(std::string_view path, std::string_view name) const;
@@ -25,8 +26,9 @@ class ZAF_API Registry {
   // file could not hold: line breaks, "]" in a path, an empty name, "=" in a name, blanks around
   // either.
   void SetValue(std::string_view path, std::string_view name, std::string value);
+  // The same without a value; a key that is there stays as it is.
   void CreateKey(std::string_view path);
-  // Names of the direct subkeys, in the order they were made.
+  // Names of the direct subkeys, in the order they were made; none when the key is absent.
   std::vector<std::string> Subkeys(std::string_view path) const;
 
   // Adds what a file holds. A line that is neither of the forms raises InvalidArgument naming file

@@ -16,7 +16,7 @@ struct ZAF_API SocketAddress {
   bool isV6 = false;
   std::array<std::uint8_t, 16> address{};  // IPv4: the first four
   std::uint32_t scope = 0;                 // interface of an IPv6 link-local address
-  std::uint16_t port = 0;
+  std::uint16_t port = 0;                  // in the byte order of the host
 
   // The 4 or 16 bytes of the address.
   std::span<const std::uint8_t> Bytes() const {

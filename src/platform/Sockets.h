@@ -13,12 +13,14 @@
 // the object; cancel the watch first.
 namespace platform {
 
+// What all sockets have in common; made by the classes below.
 class ZAF_API Socket {
  public:
   Socket(Socket&& other) noexcept;
   Socket& operator=(Socket&& other) noexcept;
   ~Socket();
 
+  // For MessageLoop::Watch; not to be closed.
   int Descriptor() const { return descriptor_; }
   // This end's address; the port that the system chose when it was opened with port 0.
   SocketAddress LocalAddress() const;
@@ -33,6 +35,7 @@ class ZAF_API Socket {
   int descriptor_;
 };
 
+// Datagrams: each may be lost, doubled or overtaken.
 class ZAF_API UdpSocket : public Socket {
  public:
   // Exchanges datagrams with this peer only. That it refuses them, a later call tells.
@@ -46,7 +49,8 @@ class ZAF_API UdpSocket : public Socket {
   // From now on as one made by ConnectTo; its own address stays.
   void Connect(const SocketAddress& peer);
 
-  // One datagram. False when it cannot be taken just now; it is lost, as one on the way may be.
+  // One datagram, by Send to the peer of Connect. False when it cannot be taken just now; it is
+  // lost, as one on the way may be.
   bool Send(std::span<const std::uint8_t> datagram);
   bool SendTo(const SocketAddress& peer, std::span<const std::uint8_t> datagram);
 
@@ -61,6 +65,7 @@ class ZAF_API UdpSocket : public Socket {
   using Socket::Socket;
 };
 
+// A connection: a stream of bytes without boundaries.
 class ZAF_API TcpSocket : public Socket {
  public:
   // Starts to connect; the socket becomes writable when that has ended.
@@ -68,7 +73,8 @@ class ZAF_API TcpSocket : public Socket {
   // Raises when the peer could not be reached. REQUIRES: the socket has become writable.
   void FinishConnect(const SocketAddress& peer);
 
-  // The number of bytes that were taken, from the first on; wait until it is writable for the rest.
+  // The number of bytes that were taken, from the first on, 0 when none can be just now; wait until
+  // it is writable for the rest. A peer that has gone raises.
   std::size_t Send(std::span<const std::uint8_t> bytes);
   // What has come: the number of bytes, 0 when the peer has closed; nothing when none are there.
   std::optional<std::size_t> Receive(std::span<std::uint8_t> buffer);
@@ -78,6 +84,7 @@ class ZAF_API TcpSocket : public Socket {
   using Socket::Socket;
 };
 
+// Waits for connections at an address; 64 may wait to be accepted.
 class ZAF_API TcpListener : public Socket {
  public:
   // Port 0 for any free one. A port whose last connections are still fading is taken all the same.
@@ -91,6 +98,7 @@ class ZAF_API TcpListener : public Socket {
   using Socket::Socket;
 };
 
+// A connection that a peer has made, connected already.
 struct TcpListener::Accepted {
   TcpSocket socket;
   SocketAddress from;

@@ -9,7 +9,7 @@ namespace platform {
 
 // The user's conventions for numbers and dates.
 struct ZAF_API UserLocale {
-  std::string decimalSeparator = ".";
+  std::string decimalSeparator = ".";  // may be more than one byte of UTF-8
   // Short date: d, dd, M, MM, yy and yyyy stand for the parts, everything else for itself.
   std::string shortDateFormat = "yyyy-MM-dd";
 

@@ -46,8 +46,8 @@ ZAF_API std::string DtmSettingsPath(std::string_view componentFileName);
 // cannot be read.
 ZAF_API bool ShowDDInformation();
 
-// Failures of controls are reported instead of ignored, for the DTM of that component file. True
-// when it cannot be read.
+// Failures of controls are traced instead of reaching whoever called the GUI manager, for the DTM
+// of that component file. True when it cannot be read.
 ZAF_API bool UseErrorHandler(std::string_view componentFileName);
 
 }  // namespace ZAFHartLib

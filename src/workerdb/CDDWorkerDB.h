@@ -101,19 +101,22 @@ class ZAF_API CDDWorkerDB : public platform::Object,
   void SetSynchronousMode(bool synchronous) override;
 
   // --- own interface, also late-bound ---
-  // Refresh interval of dynamic values in seconds, -1 for none; 10 at first.
+  // Refresh interval of dynamic values in seconds, -1 for none; 10 at first. Setting it counts for
+  // variables that are stored from then on; write "__ZAF__DynAvailTime" to change it for all.
   std::int32_t DynAvailTime() const { return dynAvailTime_; }
   void SetDynAvailTime(std::int32_t seconds) { dynAvailTime_ = seconds; }
   // Loads the defaults from section "Default" of the INI file beside the DTM's component file; the
   // argument is the data model's class name. True when there is at least one default; false also
   // when anything fails.
   bool InitDefaultData(const std::string& kernelClassName);
-  // "InitDefaultData"(class name) and "DynAvailTime".
+  // "InitDefaultData"(class name) and "DynAvailTime"; MemberNotFound for anything else.
   Variant Invoke(std::string_view name, std::span<const Variant> arguments) override;
 
   // --- single storage; from here on: operations for other parts of the library ---
+  // Told of each change of a single-storage variable, with the storage mode; nothing for none.
   void SetSingleStorage(std::shared_ptr<ISingleStorage> manager);
   std::shared_ptr<ISingleStorage> GetSingleStorage() const { return singleStorage_; }
+  // Set by the manager that pairs the data sets.
   void SetStorageMode(ZAFHartTypes::StorageMode mode) { storageMode_ = mode; }
   ZAFHartTypes::StorageMode GetStorageMode() const { return storageMode_; }
   // WriteObject that is not passed on to the single-storage manager.
@@ -131,6 +134,7 @@ class ZAF_API CDDWorkerDB : public platform::Object,
   // Values stay available, whatever their age, while somebody holds the result: held through
   // uploads, downloads and write-changes.
   [[nodiscard]] std::shared_ptr<const void> SuspendExpiry() { return expirySuspension_; }
+  // The variables that bear the mark now, and their running count.
   MarkedVariables WatchMarked(VariableMark mark);
   // A running count of the listed variables that bear the mark (see StateCounter).
   std::shared_ptr<StateCounter> CountMarked(VariableMark mark,
@@ -165,6 +169,7 @@ class ZAF_API CDDWorkerDB : public platform::Object,
   // A variable that the object's attributes depend on is not available now; the next ReadObject
   // will find them stale.
   bool HasMissingDependency(const Definition& object) const;
+  // One holder at a time: the kernel that computes the attributes.
   void SetSinks(DatabaseSinks sinks) { sinks_ = std::move(sinks); }
   const void* SinkHolder() const { return sinks_.holder; }
 
