@@ -20,7 +20,7 @@ struct Breakpoint {
   // "OPERATION", "OPERATION:OBJECT" or ":OBJECT" (with * and ?), "error", "changed" (any watched
   // object) or "changed:OBJECT". Raises InvalidArgument for an empty text.
   static Breakpoint Parse(std::string_view text);
-  bool StopsAt(const Operation& operation) const;
+  bool StopsAt(const Operation& started) const;
 };
 
 class Breakpoints {
