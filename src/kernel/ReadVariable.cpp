@@ -65,7 +65,8 @@ std::shared_ptr<Variable> CHARTKernel::ReadVariable(const Definition& definition
   return operation.Return(variable, kDone);
 }
 
-// What fails here stands on the variable; only the user's break ends the operation.
+// What the device answers stands on the variable, also when it is an error; the variable stays not
+// available when the exchange could not be made. Only the user's break ends the operation.
 void CHARTKernel::ExecuteRead(const CommandRef& command) {
   try {
     ExecuteCommand(command.Command(), command.TransactionNumber());
