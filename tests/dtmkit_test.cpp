@@ -263,7 +263,8 @@ struct ThrowingNumber : platform::Object {
 TEST(Plugin, LetsNothingOut) {
   std::shared_ptr<platform::Object> object;
   EXPECT_STREQ(CreateObject<Throwing>(&object), "no memory for the table");
-  EXPECT_STREQ(CreateObject<ThrowingNumber>(&object), "its code threw what is no exception of the standard library");
+  EXPECT_STREQ(CreateObject<ThrowingNumber>(&object),
+               "its code threw what is no exception of the standard library");
   EXPECT_EQ(object, nullptr);
   EXPECT_EQ(CreateObject<platform::Object>(&object), nullptr);
   EXPECT_NE(object, nullptr);
