@@ -97,7 +97,39 @@ TEST_F(Hartframe, WatchEndsWellWithCtrlC) {
   EXPECT_EQ(program.Finish(), 0);
 }
 
-// --- bad surroundings ---
+// --- bad descriptions and surroundings ---
+
+struct HartframeOddDtm : Hartframe {
+  // Over an emulated device of its own.
+  Result RunOdd(Arguments arguments) const {
+    arguments.insert(arguments.end(), {"--dtm", "Asking", "--dtm-path", ZAF_TEST_PLUGINS,
+                                       "--device", (folder_ / "odd.txt").string()});
+    return RunLine(arguments);
+  }
+};
+
+TEST_F(HartframeOddDtm, VariablesThatCannotBeReadAsDescribedAreNamed) {
+  struct Case {
+    Arguments arguments;
+    int code;
+  };
+  const Case cases[] = {{{"read", "age", "setpoint"}, 70},
+                        {{"menu", "ages"}, 70},
+                        {{"read", "age", "device_id", "--fault", "response:7"}, 3}};
+  for (const Case& item : cases) {
+    const Result result = RunOdd(item.arguments);
+    EXPECT_EQ(result.code, item.code) << result.out << result.error;
+    EXPECT_THAT(result.error, AllOf(HasSubstr(": age"), Not(HasSubstr("setpoint"))));
+  }
+}
+
+TEST_F(HartframeOddDtm, WithoutAnUploadMenuTheWholeConfigurationIsLoadedAndWritten) {
+  const Result written = RunOdd({"download", "setpoint=3"});
+  EXPECT_EQ(written.code, 0) << written.out << written.error;
+  const Result upload = RunOdd({"upload"});
+  EXPECT_EQ(upload.code, 0) << upload.error;
+  EXPECT_THAT(upload.out, AllOf(HasSubstr("device_id"), HasSubstr("3.00"), Not(HasSubstr("age"))));
+}
 
 TEST_F(Hartframe, DtmsThatCannotBeLoadedAreExplained) {
   struct Case {

@@ -27,8 +27,8 @@ class ZAF_API CDDComponents : public platform::Object,
   // Tears the instance down when that has not been done.
   ~CDDComponents() override;
 
-  // Creates and wires all components and loads the data model. Once per instance,
-  // or anew after PrepareTermination. With `secureKernel` the kernel extension is made from
+  // Creates and wires all components and loads the data model. Once per instance, or anew after
+  // PrepareTermination. With `secureKernel` the kernel extension is made from
   // KernelExtensionClass, otherwise it is the kernel itself. Raises CannotCreateObject and
   // TypeMismatch for a class name that gives no such component, ObjectNotSet when a method of the
   // DTM had the instance torn down; any other failure of a step reaches the caller too. What was

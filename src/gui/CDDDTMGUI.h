@@ -87,9 +87,9 @@ class ZAF_API CDDDTMGUI : public platform::Object,
   void ShowObject(const Object& object) override;
   void HideObject(const Object& object) override;
   // Records the error on its variable, where the first one stands, handled or not; ReadNotValid
-  // clears the record. Shows nothing for
-  // CannotRead, ReadNotValid, WriteNotValid and MethodNotValid. Raises Unexpected for a cyclic
-  // evaluation that the error handler did not handle, InvalidArgument without an object.
+  // clears the record. Shows nothing for CannotRead, ReadNotValid, WriteNotValid and
+  // MethodNotValid. Raises Unexpected for a cyclic evaluation that the error handler did not
+  // handle, InvalidArgument without an object.
   void ObjectError(const Object& object, ZAFHartTypes::ItemIndex index) override;
   // A code is shown with the DD's text, else the standard one, a warning as information, one of
   // type success not at all. When no error handler handles it, IDDCommWrapper::LastResult becomes

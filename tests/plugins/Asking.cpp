@@ -1,4 +1,5 @@
-// A DTM whose methods talk to the user, and one for each way to end.
+// A DTM whose methods talk to the user, one for each way to end, and a variable that cannot be
+// read.
 #include "dtmkit/dtmkit.h"
 
 namespace {
@@ -9,11 +10,11 @@ using namespace ZAFHartTypes::dtmkit;
 void DescribeDevice(DeviceDescription& dd) {
   dd.Variable("response_code").Unsigned(1).Local();
   dd.Variable("device_status").Unsigned(1).Local();
-  dd.Variable("polling_address").Unsigned(1);
-  dd.Variable("tag").PackedAscii(8);
+  dd.Variable("polling_address").Unsigned(1).ReadOnly();
+  dd.Variable("tag").PackedAscii(8).ReadOnly();
   for (const char* name : {"manufacturer", "device_type", "preambles", "revision"})
-    dd.Variable(name).Unsigned(1);
-  dd.Variable("device_id").Unsigned(3);
+    dd.Variable(name).Unsigned(1).ReadOnly();
+  dd.Variable("device_id").Unsigned(3).ReadOnly();
   dd.Command("read_unique_identifier", 0, Operation::Read)
       .Reply({Byte(254), "manufacturer", "device_type", "preambles", "revision", Byte(1), Byte(1),
               Byte(1), Byte(0), "device_id"});
@@ -25,6 +26,10 @@ void DescribeDevice(DeviceDescription& dd) {
       .Unit("s")
       .Default(2);
   dd.Command("read_setpoint", 130, Operation::Read).Reply({"setpoint"});
+  // No command can carry it, and nobody has had the description checked.
+  dd.Variable("age").DateAndTime().Dynamic();
+  dd.Command("read_age", 132, Operation::Read).Reply({"age"});
+  dd.Menu("ages").Variables({"age", "setpoint"});
   dd.Command("write_setpoint", 131, Operation::Write).Request({"setpoint"}).Reply({"setpoint"});
 }
 

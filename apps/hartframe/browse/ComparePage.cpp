@@ -2,6 +2,7 @@
 
 #include "hartframe/browse/PairScreenTexts.h"
 #include "hartframe/browse/Row.h"
+#include "hartframe/dataset/DataSet.h"
 #include "hartframe/values/Reading.h"
 
 namespace hartframe::browse {
@@ -16,8 +17,7 @@ using ZAFHartTypes::ObjectKind;
 using ZAFHartTypes::Variable;
 
 std::shared_ptr<Menu> MenuOfAll(Session& session, const DataSetPair& pair) {
-  const auto upload =
-      Definition::Define(session.Components().UpDownloadMenuName(), ObjectKind::Menu);
+  const Definition upload = UpDownloadMenu(session);
   const auto all = std::make_shared<Menu>(upload);
   for (const MenuItem& item : session.Kernel().GetMenu(upload)->Items()) {
     if (item.Definition().Kind() == ObjectKind::Variable)

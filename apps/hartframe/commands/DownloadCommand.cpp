@@ -91,7 +91,7 @@ ExitCode DownloadAndTell(Session& session, const Loaded& loaded, const std::vect
                          const std::vector<Change>& notAccepted) {
   const std::vector<Definition> changed = PendingVariables(session);
   WriteWatch watch(session, WritableOf(loaded));
-  Definition menu;
+  Definition menu = UpDownloadMenu(session);
   const bool finished = session.Run([&] { session.Components().Download(menu); });
   const std::vector<WriteResult> results = watch.Results();
   watch.RestoreUnanswered(results);

@@ -5,6 +5,7 @@
 
 #include "ddobjects/Menu.h"
 #include "hartframe/values/Reading.h"
+#include "interfaces/InternalNames.h"
 
 namespace hartframe {
 
@@ -81,8 +82,16 @@ ExitCode TellUnreadable(Session& session, std::span<const VariableRow> read) {
 
 }  // namespace
 
+Definition UpDownloadMenu(Session& session) {
+  const Definition named =
+      Definition::Define(session.Components().UpDownloadMenuName(), ObjectKind::Menu);
+  const auto object = session.Database().ReadObject(named);
+  if (object && object->Kind() == ObjectKind::Menu) return named;
+  return Definition::Define(ZAFHartTypes::internal_names::kUploadVariables, ObjectKind::Menu);
+}
+
 Loaded LoadDataSet(Session& session) {
-  Definition menu;
+  Definition menu = UpDownloadMenu(session);
   const bool finished = session.Run([&] { session.Components().Upload(menu); });
   Loaded loaded;
   loaded.rows = MenuRows(session, menu);
@@ -94,8 +103,7 @@ Loaded LoadDataSet(Session& session) {
 
 Loaded HeldDataSet(Session& session) {
   Loaded held;
-  held.rows = MenuRows(
-      session, Definition::Define(session.Components().UpDownloadMenuName(), ObjectKind::Menu));
+  held.rows = MenuRows(session, UpDownloadMenu(session));
   Count(held);
   if (held.notAttempted > 0) held.code = ExitCode::NotAllowed;
   return held;
@@ -111,7 +119,7 @@ void TellLoaded(Session& session, const Loaded& loaded) {
   if (loaded.code == ExitCode::Interrupted) {
     session.Tell().Problem("interrupted",
                            say(Text::InterruptedLeft, {std::to_string(loaded.notAttempted)}));
-  } else if (CodeOfTroubles(loaded.rows) == ExitCode::Ok) {
+  } else {
     TellUnreadable(session, ConfigurationRows(loaded));
   }
 }
@@ -136,8 +144,9 @@ void TellTroubles(Session& session, std::span<const VariableRow> rows) {
 
 ExitCode TellHowRead(Session& session, std::span<const VariableRow> read) {
   TellTroubles(session, read);
+  const ExitCode unreadable = TellUnreadable(session, read);
   const ExitCode trouble = CodeOfTroubles(read);
-  return trouble == ExitCode::Ok ? TellUnreadable(session, read) : trouble;
+  return trouble == ExitCode::Ok ? unreadable : trouble;
 }
 
 }  // namespace hartframe

@@ -20,7 +20,11 @@ struct Loaded {
   bool IsFruitless() const { return loaded == 0 && !IsComplete() && code != ExitCode::Interrupted; }
 };
 
-// Loads the variables of the DTM's upload menu.
+// The menu that uploads and downloads go by: the DTM's upload menu or, when the DTM names none that
+// it has, the library's own, which lists the whole configuration.
+ZAFHartTypes::Definition UpDownloadMenu(Session& session);
+
+// Loads the variables of that menu.
 Loaded LoadDataSet(Session& session);
 // The same variables as they stand in the data set; not attempted are those without a value.
 Loaded HeldDataSet(Session& session);
@@ -31,9 +35,9 @@ void TellLoaded(Session& session, const Loaded& loaded);
 ExitCode CodeOfTroubles(std::span<const VariableRow> rows);
 void TellTroubles(Session& session, std::span<const VariableRow> rows);
 
-// Says how reading the variables went. When nothing was wrong with the device, those that still
-// have no value are named: their description does not let the command be carried out
-// (ExitCode::Internal).
+// Says how reading the variables went. Those are named that still have no value though nothing was
+// wrong with the device: their description does not let the command be carried out
+// (ExitCode::Internal, unless others had troubles).
 ExitCode TellHowRead(Session& session, std::span<const VariableRow> read);
 
 }  // namespace hartframe

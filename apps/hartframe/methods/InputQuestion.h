@@ -15,8 +15,7 @@ bool TakeAnswer(ZAFHartTypes::Variable& variable, std::string_view answer,
                 std::string_view options = {});
 
 // Asks on the terminal until the variable has accepted a value; Enter alone takes the one that it
-// has. False when the user gives up, when it is broken off, or nobody can be
-// asked.
+// has. False when the user gives up, when it is broken off, or nobody can be asked.
 bool AskForValue(ZAFHartTypes::Variable& variable, Console& console, const Speech& speech,
                  const Console::BreakCheck& isBroken, std::string_view options = {});
 
